@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+namespace ormiva {
+
+/// A point in time, to the millisecond. It never goes into the records.
+using Instant = std::chrono::sys_time<std::chrono::milliseconds>;
+
+/// The user's current calendar: Gregorian in every locale, in the user's time zone. The one place where the
+/// program asks for the time, the zone or the locale of dates, and so the one seam that tests replace.
+namespace UserCalendar {
+
+/// Where the calendar takes its circumstances from. Empty members mean those of the machine.
+struct Surroundings {
+    std::function<Instant()> clock;
+    QString zone;   ///< an IANA name such as "Europe/Berlin"
+    QString locale; ///< such as "de_DE"
+};
+void setSurroundings(Surroundings surroundings);
+
+/// Years are counted astronomically (0 is 1 BC), months 1 to 12, days 1 to 31.
+struct Fields {
+    qint64 year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
+};
+
+/// Years that can be computed with; days beyond are clamped to it.
+constexpr qint64 lastYear = 2'000'000;
+
+Instant now();
+/// The locale for dates, as "de_DE"; "en_US" where the machine has none.
+QString localeName();
+Fields fields(Instant instant);
+/// Noon of that day. An overflowing day is normalised (February 31 becomes a March day).
+Instant noon(qint64 year, int month, int day);
+/// `days` calendar days later, whatever the clocks did meanwhile. Absent beyond the years above.
+std::optional<Instant> addingDays(Instant instant, qint64 days);
+/// Whole calendar days from one to the other, negative when `to` is earlier.
+qint64 wholeDays(Instant from, Instant to);
+
+struct Age {
+    int years = 0;
+    int months = 0; ///< the rest beyond the years, 0 to 11
+};
+/// Whole years and months from one to the other, by the field difference of ICU; negative when `to` is
+/// earlier.
+Age age(Instant from, Instant to);
+
+/// The day in the medium date style of the user's locale, in the Gregorian calendar.
+QString mediumDate(Instant instant);
+
+} // namespace UserCalendar
+
+} // namespace ormiva

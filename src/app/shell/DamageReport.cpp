@@ -1,0 +1,40 @@
+#include "DamageReport.h"
+
+#include "AppModel.h"
+#include "OMStore.h"
+#include "StoreFile.h"
+
+#include <QMetaObject>
+#include <QQuickWindow>
+#include <QThreadPool>
+
+namespace ormiva::DamageReport {
+
+namespace {
+
+/// A message that waits already is about the records too, or will not matter any more: both are shown.
+void tell() {
+    const QString sentence = QStringLiteral(
+        "Your pet records file is damaged. Nothing was changed. Restore a backup from Settings & Backup.");
+    const auto waiting = AppModel::shared().message();
+    AppModel::shared().setMessage(waiting ? *waiting + QStringLiteral("\n\n") + sentence : sentence);
+}
+
+void check(const QString& path) {
+    if (!StoreFile::damage(path).isEmpty())
+        QMetaObject::invokeMethod(&AppModel::shared(), tell, Qt::QueuedConnection);
+}
+
+} // namespace
+
+void afterFirstFrame(QQuickWindow& window, OMStore* store) {
+    if (!store)
+        return;
+    const QString path = store->url();
+    QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &AppModel::shared(),
+        [path] { QThreadPool::globalInstance()->start([path] { check(path); }); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+} // namespace ormiva::DamageReport
