@@ -8,8 +8,8 @@
 /// form.
 namespace ormiva::ContentFiles {
 
-Species readSpecies(const QByteArray& json);
-SourceFile readSources(const QByteArray& json);
-SymptomFile readSymptoms(const QByteArray& json);
+Species readSpecies(const QByteArray& bytes);
+SourceFile readSources(const QByteArray& bytes);
+SymptomFile readSymptoms(const QByteArray& bytes);
 
 } // namespace ormiva::ContentFiles

@@ -2,10 +2,9 @@
 
 #include "Numbers.h"
 
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QStringList>
-
-#include <cmath>
 
 namespace ormiva {
 
@@ -39,9 +38,11 @@ std::optional<OMDay> OMDay::fromIso(const QString& text) {
 std::optional<OMDay> OMDay::fromJson(const QJsonValue& json) {
     const auto integer = [&](const QString& key) -> std::optional<qint64> {
         const QJsonValue value = json.toObject().value(key);
-        if (!value.isDouble() || value.toDouble() != std::trunc(value.toDouble()))
+        const qint64 number = value.toInteger();
+        // A number that is no integer, or too large for one, reads as 0.
+        if (!value.isDouble() || static_cast<double>(number) != value.toDouble())
             return std::nullopt;
-        return value.toInteger();
+        return number;
     };
     const auto y = integer(QStringLiteral("y"));
     const auto m = integer(QStringLiteral("m"));
@@ -55,8 +56,10 @@ QString OMDay::iso() const {
     return QString::asprintf("%04lld-%02d-%02d", static_cast<long long>(y), m, d);
 }
 
-QJsonObject OMDay::toJson() const {
-    return {{QStringLiteral("y"), y}, {QStringLiteral("m"), m}, {QStringLiteral("d"), d}};
+QByteArray OMDay::toJson() const {
+    // QJsonObject would sort the members by name.
+    return QByteArrayLiteral("{\"y\":") + QByteArray::number(y) + QByteArrayLiteral(",\"m\":") +
+           QByteArray::number(m) + QByteArrayLiteral(",\"d\":") + QByteArray::number(d) + '}';
 }
 
 Instant OMDay::date() const {

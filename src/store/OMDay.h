@@ -2,12 +2,14 @@
 
 #include "UserCalendar.h"
 
+#include <QByteArray>
 #include <QHashFunctions>
-#include <QJsonObject>
 #include <QObject>
 
 #include <compare>
 #include <optional>
+
+class QJsonValue;
 
 namespace ormiva {
 
@@ -37,7 +39,8 @@ public:
 
     /// "%04d-%02d-%02d": the form in which every day is stored.
     QString iso() const;
-    QJsonObject toJson() const;
+    /// The object with the members "y", "m", "d", in that order.
+    QByteArray toJson() const;
     /// Noon of the day; an overflowing day is normalised. Years are clamped to those of `UserCalendar`.
     Instant date() const;
     /// The day `days` days later, or the same one when that leaves the years of `UserCalendar`.

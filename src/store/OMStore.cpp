@@ -4,9 +4,6 @@
 #include "StoreSchema.h"
 
 #include <QCryptographicHash>
-#include <QFileInfo>
-
-#include <filesystem>
 
 namespace ormiva {
 
@@ -15,13 +12,6 @@ namespace {
 std::unique_ptr<OMStore>& sharedStore() {
     static std::unique_ptr<OMStore> store;
     return store;
-}
-
-void makeFolder(const QString& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder.toStdU16String(), error);
-    if (error)
-        throw FileError::fromErrno(QStringLiteral("Could not create the folder"), folder, error.value());
 }
 
 } // namespace
@@ -35,10 +25,8 @@ void OMStore::setShared(std::unique_ptr<OMStore> store) {
 }
 
 OMStore::OMStore(const QString& url)
-    : m_url(url) {
-    makeFolder(QFileInfo(url).absolutePath());
-    m_db = StoreFile::open(url);
-}
+    : m_url(url)
+    , m_db(StoreFile::open(url)) {}
 
 void OMStore::changed() {
     ++m_revision;
@@ -63,21 +51,30 @@ void OMStore::write(const QString& table, const QStringList& columns, SQLArgumen
         if (m_db->scalarInt(QStringLiteral("SELECT count(*) FROM %1 WHERE id = ?").arg(table), {id}) != 1)
             throw OMError::notFound();
         values.append(id);
-        m_db->run(QStringLiteral("UPDATE %1 SET %2 = ? WHERE id = ?")
-                      .arg(table, columns.join(QStringLiteral(" = ?, "))),
-                  values);
+        writer().run(QStringLiteral("UPDATE %1 SET %2 = ? WHERE id = ?")
+                         .arg(table, columns.join(QStringLiteral(" = ?, "))),
+                     values);
     } else {
         const QStringList marks(columns.size(), QStringLiteral("?"));
-        id = m_db->run(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                           .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
-                       values);
+        id = writer().run(
+            QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                .arg(table, columns.join(QStringLiteral(", ")), marks.join(QStringLiteral(", "))),
+            values);
     }
     changed();
 }
 
 void OMStore::removeRow(const QString& table, qint64 id) {
-    m_db->run(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(table), {id});
+    writer().run(QStringLiteral("DELETE FROM %1 WHERE id = ?").arg(table), {id});
     changed();
+}
+
+SQLiteDB& OMStore::writer() {
+    if (!m_durable) {
+        StoreFile::makeDurable(*m_db);
+        m_durable = true;
+    }
+    return *m_db;
 }
 
 QList<Pet> OMStore::pets() {
@@ -141,9 +138,9 @@ QSet<QString> OMStore::checked(qint64 petID, const OMDay& day) {
 }
 
 void OMStore::setChecked(qint64 petID, const OMDay& day, const QString& item, bool on) {
-    m_db->run(on ? QStringLiteral("INSERT OR IGNORE INTO checklist (pet_id, day, item) VALUES (?,?,?)")
-                 : QStringLiteral("DELETE FROM checklist WHERE pet_id = ? AND day = ? AND item = ?"),
-              {petID, day.iso(), item});
+    writer().run(on ? QStringLiteral("INSERT OR IGNORE INTO checklist (pet_id, day, item) VALUES (?,?,?)")
+                    : QStringLiteral("DELETE FROM checklist WHERE pet_id = ? AND day = ? AND item = ?"),
+                 {petID, day.iso(), item});
     changed();
 }
 

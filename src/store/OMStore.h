@@ -31,6 +31,7 @@ public:
     explicit OMStore(const QString& url);
 
     const QString& url() const { return m_url; }
+    /// The open connection, for reading.
     SQLiteDB& db() { return *m_db; }
     /// Grows by 1 on every change of the records; never stored.
     int revision() const { return m_revision; }
@@ -79,9 +80,12 @@ private:
                        const QString& order);
     void write(const QString& table, const QStringList& columns, SQLArguments values, qint64& id);
     void removeRow(const QString& table, qint64 id);
+    /// The open connection, for writing: what is committed on it lasts.
+    SQLiteDB& writer();
 
     QString m_url;
     std::unique_ptr<SQLiteDB> m_db;
+    bool m_durable = false; ///< whether `m_db` has been made durable
     int m_revision = 0;
 };
 

@@ -8,7 +8,10 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <array>
 #include <fcntl.h>
+#include <filesystem>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,55 +20,72 @@ namespace ormiva::StoreFile {
 
 namespace {
 
-const QString siblingSuffixes[] = {QStringLiteral("-journal"), QStringLiteral("-wal"),
-                                   QStringLiteral("-shm")};
+/// What SQLite leaves beside a file that it did not close. A -shm alone means nothing; SQLite makes it anew.
+constexpr std::array<QLatin1String, 2> siblingSuffixes = {QLatin1String("-journal"), QLatin1String("-wal")};
 
-/// An empty file is made before SQLite would make it for everybody to read. SQLite gives the siblings its
-/// mode.
+bool exists(const QString& path) {
+    struct stat ignored {};
+    return ::lstat(QFile::encodeName(path).constData(), &ignored) == 0;
+}
+
+bool hasSibling(const QString& path) {
+    return std::any_of(siblingSuffixes.begin(), siblingSuffixes.end(),
+                       [&](QLatin1String suffix) { return exists(path + suffix); });
+}
+
+void makeFolder(const QString& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder.toStdU16String(), error);
+    if (error)
+        throw FileError::fromErrno(QStringLiteral("Could not create the folder"), folder, error.value());
+}
+
+/// An empty file, before SQLite would make it for everybody to read. SQLite gives the siblings its mode.
 void createPrivately(const QString& path) {
+    makeFolder(QFileInfo(path).absolutePath());
     const int file =
         ::open(QFile::encodeName(path).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
     if (file >= 0)
         ::close(file);
-    // Whatever went wrong here goes wrong again when SQLite opens the file, and is reported there.
+    // Whatever went wrong with the file goes wrong again when SQLite opens it, and is reported there.
 }
 
-void makePrivate(const QString& path) {
-    // Not every file system knows modes; the records are kept all the same.
-    ::chmod(QFile::encodeName(path).constData(), 0600);
-    for (const QString& suffix : siblingSuffixes)
-        ::chmod(QFile::encodeName(path + suffix).constData(), 0600);
+/// Takes the right to read the file from everybody but the user. Not every file system knows modes; the
+/// records are kept all the same.
+void makePrivate(const QString& path, mode_t mode) {
+    if ((mode & 0077) != 0)
+        ::chmod(QFile::encodeName(path).constData(), 0600);
 }
 
-/// Whether reading the file in place changes nothing on disk: a rollback-journal file without siblings. With
-/// a journal SQLite would roll back, in WAL mode it would make and fill siblings, both before we know whose
-/// file it is.
-bool readsWithoutWriting(const QString& path) {
-    for (const QString& suffix : siblingSuffixes)
-        if (QFileInfo::exists(path + suffix))
-            return false;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return true; // There is nothing to be read, and so nothing that SQLite could write.
+bool isInWalMode(const QString& path) {
+    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return false; // What can't be read is refused by SQLite.
     // Offsets 18 and 19 of the header: write and read version, 2 for WAL.
-    const QByteArray header = file.read(20);
-    return header.size() < 20 || (header.at(18) != 2 && header.at(19) != 2);
+    std::array<char, 20> header{};
+    const bool whole = ::read(file, header.data(), header.size()) == static_cast<ssize_t>(header.size());
+    ::close(file);
+    return whole && (header[18] == 2 || header[19] == 2);
 }
 
 enum class Standing { Empty, Ours };
 
+/// The number in the one row of `sql`. Throws where `SQLiteDB::scalarInt` gives 0: here an unreadable number
+/// must not look like one.
+qint64 readNumber(SQLiteDB& db, const QString& sql) {
+    const QList<SQLRow> rows = db.query(sql);
+    return rows.isEmpty() ? 0 : integerOf(rows.first().values.begin()->second).value_or(0);
+}
+
 /// Whether the file is new or ours; throws when it is neither. Writes nothing.
 Standing standing(SQLiteDB& db) {
-    // A version that can't be read must not look like 0.
-    const QList<SQLRow> rows = db.query(QStringLiteral("PRAGMA user_version"));
-    const qint64 version =
-        rows.isEmpty() ? 0 : rows.first().integer(QStringLiteral("user_version")).value_or(0);
+    const qint64 version = readNumber(db, QStringLiteral("PRAGMA user_version"));
     if (version > StoreSchema::version)
         throw OMError::database(QStringLiteral(
             "This database was made by a newer version of VLK Ormiva. Please update the app."));
     if (version != 0)
         return Standing::Ours;
-    if (db.query(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type='table' LIMIT 1")).size() != 0)
+    if (readNumber(db, QStringLiteral("SELECT count(*) FROM sqlite_master WHERE type='table'")) != 0)
         throw OMError::database(QStringLiteral("This file is not a VLK Ormiva database."));
     return Standing::Empty;
 }
@@ -85,41 +105,70 @@ void judgeFromCopy(const QString& path) {
                             .arg(folder.errorString()));
     const QString copy = folder.filePath(QStringLiteral("copy.sqlite"));
     copyOrThrow(path, copy);
-    for (const QString& suffix : {siblingSuffixes[0], siblingSuffixes[1]})
-        if (QFileInfo::exists(path + suffix))
+    for (const QLatin1String suffix : siblingSuffixes)
+        if (exists(path + suffix))
             copyOrThrow(path + suffix, copy + suffix);
     SQLiteDB db(copy);
     standing(db);
 }
 
+/// Back to a rollback journal: backup, inspection and restore rely on one file.
+void leaveWalMode(SQLiteDB& db) {
+    try {
+        db.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
+    } catch (const OMError&) {
+        // Somebody else has the file open; it works as it is, and the next start tries again.
+    }
+}
+
+/// A file that was there before.
+std::unique_ptr<SQLiteDB> openExisting(const QString& path, const struct stat& file) {
+    const bool regular = S_ISREG(file.st_mode);
+    // SQLite takes a file of one byte for an empty one, and would write over that byte.
+    if (regular && file.st_size == 1)
+        throw OMError::database(QStringLiteral("file is not a database"));
+    // With a journal SQLite would roll back, in WAL mode it would make and fill siblings, both before we know
+    // whose file it is. Reading any other file writes nothing.
+    const bool wal = regular && isInWalMode(path);
+    if (regular && (wal || hasSibling(path)))
+        judgeFromCopy(path);
+
+    auto db = std::make_unique<SQLiteDB>(path);
+    migrate(*db);
+    makePrivate(path, file.st_mode);
+    if (wal)
+        leaveWalMode(*db);
+    return db;
+}
+
 } // namespace
 
 std::unique_ptr<SQLiteDB> open(const QString& path) {
-    const QFileInfo file(path);
-    if (!file.exists())
-        createPrivately(path);
+    struct stat file {};
+    const bool there = ::lstat(QFile::encodeName(path).constData(), &file) == 0;
     // SQLite looks for the siblings beside the file that a link leads to.
-    else if (const QString real = file.canonicalFilePath(); file.isFile() && !readsWithoutWriting(real))
-        judgeFromCopy(real);
+    if (there && S_ISLNK(file.st_mode))
+        if (const QString real = QFileInfo(path).canonicalFilePath(); !real.isEmpty())
+            return open(real);
+    if (there)
+        return openExisting(path, file);
+    createPrivately(path);
     auto db = std::make_unique<SQLiteDB>(path);
     migrate(*db);
-    makePrivate(QFileInfo(path).canonicalFilePath());
     return db;
 }
 
 void migrate(SQLiteDB& db) {
-    const Standing found = standing(db);
-    try {
-        // EXTRA, because FULL leaves the folder unsynced after the journal is deleted; and one file only, so
-        // that backup, inspection and restore can rely on it.
-        db.exec(QStringLiteral("PRAGMA synchronous = EXTRA; PRAGMA journal_mode = DELETE"));
-    } catch (const OMError&) { // A schema so damaged that these fail can't be written to either.
-    }
-    if (found == Standing::Ours)
+    if (standing(db) == Standing::Ours)
         return;
+    makeDurable(db);
     db.transaction([&] { db.exec(StoreSchema::sql()); });
     db.exec(QStringLiteral("PRAGMA application_id = ") + QString::number(StoreSchema::applicationID));
     db.exec(QStringLiteral("PRAGMA user_version = ") + QString::number(StoreSchema::version));
+}
+
+void makeDurable(SQLiteDB& db) {
+    db.exec(QStringLiteral("PRAGMA synchronous = EXTRA"));
 }
 
 QString damage(const QString& path) {

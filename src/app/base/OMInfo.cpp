@@ -7,7 +7,7 @@
 namespace ormiva::OMInfo {
 
 QString dataFolder() {
-    const QString folder =
+    QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + appName;
     QDir().mkpath(folder); // A failure surfaces when something is written there.
     return folder;

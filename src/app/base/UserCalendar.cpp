@@ -1,6 +1,7 @@
 #include "UserCalendar.h"
 
 #include <QByteArray>
+#include <QList>
 
 #include <algorithm>
 #include <limits>
@@ -63,7 +64,7 @@ QString localeName() {
         const QByteArray value = qgetenv(variable);
         if (value.isEmpty())
             continue;
-        const QByteArray name = value.left(value.indexOf('.'));
+        const QByteArray name = value.split('.').first();
         if (name != "C" && name != "POSIX")
             return QString::fromLatin1(name);
         break;

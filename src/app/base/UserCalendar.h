@@ -21,7 +21,7 @@ struct Surroundings {
     QString zone;   ///< an IANA name such as "Europe/Berlin"
     QString locale; ///< such as "de_DE"
 };
-void setSurroundings(Surroundings surroundings);
+void setSurroundings(Surroundings replacement);
 
 /// Years are counted astronomically (0 is 1 BC), months 1 to 12, days 1 to 31.
 struct Fields {
@@ -49,7 +49,7 @@ qint64 wholeDays(Instant from, Instant to);
 
 struct Age {
     int years = 0;
-    int months = 0; ///< the rest beyond the years, 0 to 11
+    int months = 0; ///< the rest beyond the years, 0 to 11; 12 on the February 28 before a leap day's birthday
 };
 /// Whole years and months from one to the other, by the field difference of ICU; negative when `to` is
 /// earlier.

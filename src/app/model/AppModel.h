@@ -73,7 +73,7 @@ public:
     Q_INVOKABLE void editNewPet(const QString& speciesID = {});
     Q_INVOKABLE void closeSheet();
     Q_INVOKABLE void dismissMessage();
-    /// Clears the confirmation, and runs its action first when it was confirmed.
+    /// Clears the confirmation, and then runs its action when it was confirmed.
     Q_INVOKABLE void answerConfirm(bool confirmed);
 
 Q_SIGNALS:

@@ -34,6 +34,9 @@ public:
     /// process should end.
     bool applicationDidFinishLaunching(SingleInstance& instance);
 
+    /// The hourly timer; runs only once the application has launched with a store.
+    QTimer& turnTimer() { return m_turn; }
+
 private:
     void reschedule() const;
     void requestPermissionIfNeeded() const;

@@ -17,6 +17,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+#include <utility>
 
 namespace ormiva {
 
@@ -28,17 +30,42 @@ void say(const QString& sentence) {
     std::fprintf(stderr, "%s\n", sentence.toUtf8().constData());
 }
 
-/// While the application object is made: the toolkit aborts when it finds no display, and what it prints
-/// helps nobody.
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type != QtFatalMsg)
-        return;
-    if (text.contains(QStringLiteral("platform plugin")))
-        say(QStringLiteral("Ormiva needs a graphical desktop, and none could be reached."));
-    else
-        say(QStringLiteral("Ormiva could not start: ") + text);
-    std::_Exit(1);
-}
+/// What the toolkit says while the program starts: held back, because a start that fails is told in one
+/// sentence of ours, and handed on once the window is up.
+class StartUpMessages {
+public:
+    StartUpMessages()
+        : m_usual(qInstallMessageHandler(hold)) {}
+    ~StartUpMessages() { qInstallMessageHandler(m_usual); }
+    StartUpMessages(const StartUpMessages&) = delete;
+    StartUpMessages& operator=(const StartUpMessages&) = delete;
+
+    static void handOn() {
+        for (const QString& text : std::exchange(held(), {}))
+            say(text);
+    }
+
+private:
+    static QStringList& held() {
+        static QStringList texts;
+        return texts;
+    }
+
+    static void hold(QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type != QtFatalMsg) {
+            held().append(text);
+            return;
+        }
+        // The toolkit is about to abort; without a display it does so before any code of ours runs.
+        if (text.contains(QStringLiteral("platform plugin")))
+            say(QStringLiteral("Ormiva needs a graphical desktop, and none could be reached."));
+        else
+            say(QStringLiteral("Ormiva could not start: ") + text);
+        std::_Exit(1);
+    }
+
+    QtMessageHandler m_usual;
+};
 
 /// The software scene graph starts faster and needs no GPU; the user's own choice wins.
 void chooseSceneGraph() {
@@ -67,11 +94,12 @@ void comeForward(QQuickWindow& window, const QByteArray& token) {
     window.requestActivate();
 }
 
+/// What is at the bottom of a page that could not be loaded.
 QString reason(const QList<QQmlError>& errors) {
-    return errors.isEmpty() ? QStringLiteral("the page is missing") : errors.first().toString();
+    return errors.isEmpty() ? QStringLiteral("the page is no window") : errors.last().toString();
 }
 
-int showWindow(const QUrl& page, const SingleInstance& instance) {
+int showWindow(const QUrl& page, const SingleInstance& instance, std::unique_ptr<StartUpMessages> messages) {
     QQmlApplicationEngine engine;
     QList<QQmlError> errors;
     engine.setOutputWarningsToStandardError(false);
@@ -86,6 +114,8 @@ int showWindow(const QUrl& page, const SingleInstance& instance) {
     }
     QObject::disconnect(collecting);
     engine.setOutputWarningsToStandardError(true);
+    messages.reset();
+    StartUpMessages::handOn();
 
     QObject::connect(&instance, &SingleInstance::broughtForward, window,
                      [window](const QByteArray& token) { comeForward(*window, token); });
@@ -96,10 +126,9 @@ int showWindow(const QUrl& page, const SingleInstance& instance) {
 } // namespace
 
 int runWindow(int& argc, char** argv, const QUrl& page) {
-    const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
+    auto messages = std::make_unique<StartUpMessages>();
     chooseSceneGraph();
     const QApplication application(argc, argv);
-    qInstallMessageHandler(usual);
     describeApplication();
 
     OMSetup::configure();
@@ -111,7 +140,7 @@ int runWindow(int& argc, char** argv, const QUrl& page) {
     if (!delegate.applicationDidFinishLaunching(instance))
         return 0;
 
-    const int status = showWindow(page, instance);
+    const int status = showWindow(page, instance, std::move(messages));
     OMStore::setShared(nullptr);
     return status;
 }

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <functional>
+
+/// Measurements that come in pairs: what the program does, and the least that could do it. Both are timed in
+/// turn in one run, so their ratio holds on a machine whose speed drifts.
+namespace ormiva::bench {
+
+/// Times `ours` against `bare`; `limit` is the ratio that is aimed at, at most.
+void addPair(const char* name, double limit, std::function<void()> ours, std::function<void()> bare);
+
+void addLibraryPairs();
+void addStorePairs();
+
+} // namespace ormiva::bench

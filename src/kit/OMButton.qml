@@ -1,0 +1,15 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// What all buttons have in common: hovering, the focus by Tab, and Return as well as Space to press them.
+T.AbstractButton {
+    id: button
+
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+}
