@@ -10,7 +10,8 @@ namespace ormiva::ArtPainter {
 namespace {
 
 /// A gradient between two circles about one centre, as a span of a QRadialGradient.
-QRadialGradient radial(QPointF centre, double startRadius, double endRadius, const QColor& from, const QColor& to) {
+QRadialGradient radial(QPointF centre, double startRadius, double endRadius, const QColor& from,
+                       const QColor& to) {
     QRadialGradient gradient(centre, endRadius);
     gradient.setColorAt(0, from);
     gradient.setColorAt(startRadius / endRadius, from);
@@ -40,7 +41,8 @@ void eye(QPainter& context, double x, double y, double r, const std::optional<QC
 
 void badge(QPainter& context, const VLKTheme& theme) {
     const QPainterPath plate = ell(50, 50, 98, 98);
-    context.fillPath(plate, radial({42, 30}, 4, 70, at(color(theme.panelTop), 0.95), color(theme.panelBottom)));
+    context.fillPath(plate,
+                     radial({42, 30}, 4, 70, at(color(theme.panelTop), 0.95), color(theme.panelBottom)));
 
     const QColor warm = QColor::fromRgbF(1.0F, 0.85F, 0.55F);
     context.fillPath(plate, radial({38, 20}, 2, 50, at(warm, 0.22), at(warm, 0)));

@@ -32,7 +32,8 @@ void CrispItem::geometryChange(const QRectF& now, const QRectF& before) {
 
 void CrispItem::fitTexture() {
     const double ratio = VLZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
-    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio)));
+    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
+                       static_cast<int>(std::ceil(height() * ratio)));
     if (pixels == textureSize())
         return;
     setTextureSize(pixels);

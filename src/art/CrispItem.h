@@ -5,8 +5,8 @@
 
 namespace ormiva {
 
-/// A painted item that has as many pixels as it takes on the screen, whatever the zoom of the interface and the
-/// density of the screen; without that it would blur.
+/// A painted item that has as many pixels as it takes on the screen, whatever the zoom of the interface and
+/// the density of the screen; without that it would blur.
 class CrispItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_ANONYMOUS

@@ -50,7 +50,9 @@ void SpeciesIcon::setBadge(bool badge) {
     Q_EMIT badgeChanged();
 }
 
-void SpeciesIcon::paint(QPainter* painter) { paintIcon(*painter, width(), m_art, m_palette, m_badge); }
+void SpeciesIcon::paint(QPainter* painter) {
+    paintIcon(*painter, width(), m_art, m_palette, m_badge);
+}
 
 void SpeciesIcon::paintIcon(QPainter& painter, double edge, const QString& art, const QStringList& palette,
                             bool badge) {

@@ -21,8 +21,8 @@ public:
     friend bool operator==(const CareLine&, const CareLine&) = default;
 };
 
-/// The lines of `text`, one for each part between line feeds. A line whose first visible character is "•" is a
-/// bullet row; every other line stays as it is, empty ones included.
+/// The lines of `text`, one for each part between line feeds. A line whose first visible character is "•" is
+/// a bullet row; every other line stays as it is, empty ones included.
 QList<CareLine> careLines(const QString& text);
 
 } // namespace ormiva

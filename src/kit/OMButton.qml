@@ -9,6 +9,7 @@ T.AbstractButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
+    Accessible.name: text // Said here, since Qt sets it only for buttons made after a reader has come.
 
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

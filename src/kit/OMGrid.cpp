@@ -32,7 +32,9 @@ void OMGrid::componentComplete() {
     place();
 }
 
-void OMGrid::updatePolish() { place(); }
+void OMGrid::updatePolish() {
+    place();
+}
 
 QList<QQuickItem*> OMGrid::shownChildren() const {
     QList<QQuickItem*> shown;

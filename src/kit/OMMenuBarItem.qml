@@ -11,6 +11,7 @@ T.MenuBarItem {
     y: 2
     horizontalPadding: 10
     hoverEnabled: true
+    Accessible.name: text
 
     contentItem: OMText {
         text: item.text

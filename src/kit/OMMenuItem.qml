@@ -14,6 +14,7 @@ T.MenuItem {
     leftPadding: 28
     rightPadding: 14
     hoverEnabled: true
+    Accessible.name: text
     Accessible.description: keys
 
     contentItem: MenuItemLabel {

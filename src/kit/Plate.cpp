@@ -21,8 +21,7 @@ void Plate::setFill(const QColor& color) {
 }
 
 QSGNode* Plate::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
-    const bool painted =
-        window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+    const bool painted = window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
     return painted ? paintedNode(old) : texturedNode(old);
 }
 
@@ -38,7 +37,8 @@ QSGNode* Plate::paintedNode(QSGNode* old) const {
 QSGNode* Plate::texturedNode(QSGNode* old) const {
     auto* node = static_cast<QSGImageNode*>(old);
     const double scale = VLZoom::value() * window()->effectiveDevicePixelRatio();
-    const QSize pixels(static_cast<int>(std::ceil(width() * scale)), static_cast<int>(std::ceil(height() * scale)));
+    const QSize pixels(static_cast<int>(std::ceil(width() * scale)),
+                       static_cast<int>(std::ceil(height() * scale)));
     if (pixels.isEmpty()) {
         delete node;
         return nullptr;

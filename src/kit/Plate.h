@@ -8,8 +8,8 @@
 namespace ormiva {
 
 /// A rounded rectangle, the ground of buttons, rows and cards. With the software scene graph it is painted
-/// straight to the window, with smooth edges at every zoom; Qt's own Rectangle puts rounded corners together from
-/// stored pictures there, which turn coarse when they are scaled.
+/// straight to the window, with smooth edges at every zoom; Qt's own Rectangle puts rounded corners together
+/// from stored pictures there, which turn coarse when they are scaled.
 class Plate : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

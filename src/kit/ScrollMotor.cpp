@@ -23,9 +23,7 @@ struct Axis {
     double room() const { return vertical ? target.height() : target.width(); }
     double start() const { return read("originX", "originY"); }
     double position() const { return read("contentX", "contentY"); }
-    double end() const {
-        return std::max(start(), start() + read("contentWidth", "contentHeight") - room());
-    }
+    double end() const { return std::max(start(), start() + read("contentWidth", "contentHeight") - room()); }
 
     bool moveTo(double wanted) const {
         const double before = position();
@@ -67,7 +65,7 @@ void ScrollMotor::setTarget(QQuickItem* target) {
 
 bool ScrollMotor::wheel(const QPointF& angleDelta, int modifiers) {
     QPointF turn = angleDelta;
-    if (modifiers & Qt::ShiftModifier)
+    if (Qt::KeyboardModifiers(modifiers).testFlag(Qt::ShiftModifier))
         turn = turn.transposed();
     turn *= -pointsPerNotch / static_cast<double>(QWheelEvent::DefaultDeltasPerStep);
     return move(turn.x(), turn.y());
@@ -142,7 +140,8 @@ void ScrollMotor::focusMoved() {
     if (!item || !m_target || item == m_target || !m_target->isAncestorOf(item) || !item->activeFocusOnTab())
         return;
     // What was clicked is in sight; moving it from under the pointer would only confuse.
-    if (item->property("focusReason").toInt() == Qt::MouseFocusReason && item->property("focusReason").isValid())
+    if (item->property("focusReason").toInt() == Qt::MouseFocusReason &&
+        item->property("focusReason").isValid())
         return;
     reveal(item);
 }

@@ -18,8 +18,8 @@ public:
     QQuickItem* target() const { return m_target; }
     void setTarget(QQuickItem* target);
 
-    /// Scrolls by a turn of the wheel, in eighths of a degree. False when the end was reached already, so that
-    /// what lies around may scroll.
+    /// Scrolls by a turn of the wheel, in eighths of a degree. False when the end was reached already, so
+    /// that what lies around may scroll.
     Q_INVOKABLE bool wheel(const QPointF& angleDelta, int modifiers);
     /// Scrolls by an arrow key, Page Up, Page Down, Home or End; false for every other key.
     Q_INVOKABLE bool key(int key);

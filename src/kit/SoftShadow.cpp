@@ -20,7 +20,9 @@ double distance(double x, double y, double half, double corner) {
 }
 
 /// How much of the light a blurred edge takes away at that distance from it, 0 to 1.
-double shade(double distance) { return 0.5 * std::erfc(distance / (radius * std::sqrt(2.0) / 1.6)); }
+double shade(double distance) {
+    return 0.5 * std::erfc(distance / (radius * std::sqrt(2.0) / 1.6));
+}
 
 QImage paint() {
     const int edge = 2 * (SoftShadow::reach + SoftShadow::corner) + 2;
@@ -28,8 +30,8 @@ QImage paint() {
     for (int y = 0; y < edge; ++y)
         for (int x = 0; x < edge; ++x) {
             const double middle = (edge - 1) / 2.0;
-            const double away = distance(x - middle, y - middle, edge / 2.0 - SoftShadow::reach,
-                                         SoftShadow::corner);
+            const double away =
+                distance(x - middle, y - middle, edge / 2.0 - SoftShadow::reach, SoftShadow::corner);
             const int alpha = static_cast<int>(std::lround(255 * darkest * shade(away)));
             image.setPixel(x, y, qRgba(0, 0, 0, alpha));
         }

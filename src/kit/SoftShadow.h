@@ -4,8 +4,8 @@
 
 namespace ormiva {
 
-/// The soft shadows of panels, as pictures that are stretched by their middle. Each is painted once and shared
-/// by all panels, which costs far less than blurring.
+/// The soft shadows of panels, as pictures that are stretched by their middle. Each is painted once and
+/// shared by all panels, which costs far less than blurring.
 class SoftShadow final : public QQuickImageProvider {
 public:
     inline static const QString provider = QStringLiteral("ormiva-shadow");

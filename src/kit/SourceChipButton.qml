@@ -57,7 +57,10 @@ OMButton {
         sourceComponent: OMMenu {
             parent: button
             y: button.height + 4
-            onClosed: menu.active = false
+            onClosed: {
+                menu.active = false
+                button.forceActiveFocus(Qt.PopupFocusReason)
+            }
             Component.onCompleted: open()
 
             Repeater {

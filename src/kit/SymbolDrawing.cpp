@@ -8,26 +8,38 @@ namespace ormiva::SymbolDrawing {
 
 namespace {
 
+/// Uniting shapes turns their curves into short lines, of a length that is told in units. So they are put
+/// together this much larger.
+constexpr double enlarged = 20;
+
+QPainterPath enlarge(const QPainterPath& path) {
+    return QTransform::fromScale(enlarged, enlarged).map(path);
+}
+
 QPainterPath rounded(const QRectF& rect, double radius) {
     QPainterPath path;
     path.addRoundedRect(rect, radius, radius);
-    return path;
+    return enlarge(path);
 }
 
 QPainterPath disc(double x, double y, double width, double height) {
     QPainterPath path;
     path.addEllipse(QPointF(x, y), width / 2, height / 2);
-    return path;
+    return enlarge(path);
 }
 
 QPainterPath turned(const QPainterPath& path, double degrees, QPointF pivot) {
-    return QTransform().translate(pivot.x(), pivot.y()).rotate(degrees).translate(-pivot.x(), -pivot.y()).map(path);
+    return QTransform()
+        .translate(pivot.x() * enlarged, pivot.y() * enlarged)
+        .rotate(degrees)
+        .translate(-pivot.x() * enlarged, -pivot.y() * enlarged)
+        .map(path);
 }
 
 /// The outline of a round brush led along `line`.
 QPainterPath brushed(const QPainterPath& line, double width) {
     QPainterPathStroker stroker;
-    stroker.setWidth(width);
+    stroker.setWidth(width * enlarged);
     stroker.setCapStyle(Qt::RoundCap);
     stroker.setJoinStyle(Qt::RoundJoin);
     return stroker.createStroke(line);
@@ -36,13 +48,14 @@ QPainterPath brushed(const QPainterPath& line, double width) {
 QPainterPath curve(QPointF from, QPointF control, QPointF to) {
     QPainterPath line(from);
     line.quadTo(control, to);
-    return line;
+    return enlarge(line);
 }
 
 /// A medical case: a bag with its handle, a cross cut out of it.
 QPainterPath medicalCase() {
     const QPainterPath handle = rounded({7.5, 3, 9, 8}, 2.2).subtracted(rounded({9.3, 4.8, 5.4, 8}, 1));
-    const QPainterPath cross = rounded({10.7, 9.4, 2.6, 8.2}, 0.5).united(rounded({7.9, 12.2, 8.2, 2.6}, 0.5));
+    const QPainterPath cross =
+        rounded({10.7, 9.4, 2.6, 8.2}, 0.5).united(rounded({7.9, 12.2, 8.2, 2.6}, 0.5));
     return handle.united(rounded({2, 6.5, 20, 14}, 2.6)).subtracted(cross);
 }
 
@@ -75,7 +88,7 @@ QPainterPath bird() {
     body.closeSubpath();
     const QPainterPath legs = brushed(curve({11.6, 17}, {11.8, 19}, {11.2, 21.4}), 1.2)
                                   .united(brushed(curve({14, 16.8}, {14.4, 19}, {14, 21.4}), 1.2));
-    return body.united(legs).subtracted(disc(16.2, 6.9, 1.5, 1.5));
+    return enlarge(body).united(legs).subtracted(disc(16.2, 6.9, 1.5, 1.5));
 }
 
 /// A lizard from above, its tail curling to the left.
@@ -84,8 +97,9 @@ QPainterPath lizard() {
     shape = shape.united(brushed(curve({14.6, 6}, {11, 9.4}, {12.4, 13.6}), 4.6));
     shape = shape.united(brushed(curve({12.4, 13}, {13.4, 18}, {9.4, 20}), 3));
     shape = shape.united(brushed(curve({10, 19.7}, {6.4, 22}, {3.4, 19.4}), 1.6));
-    for (const QPainterPath& leg : {curve({13, 8}, {17.4, 9.2}, {19.4, 7.4}), curve({12.6, 8.6}, {9, 7.6}, {8, 4.8}),
-                                    curve({12.6, 13.8}, {16.6, 13.6}, {18, 16.6}), curve({12.2, 13.6}, {8.8, 13}, {6.2, 14.8})})
+    for (const QPainterPath& leg :
+         {curve({13, 8}, {17.4, 9.2}, {19.4, 7.4}), curve({12.6, 8.6}, {9, 7.6}, {8, 4.8}),
+          curve({12.6, 13.8}, {16.6, 13.6}, {18, 16.6}), curve({12.2, 13.6}, {8.8, 13}, {6.2, 14.8})})
         shape = shape.united(brushed(leg, 1.7));
     return shape;
 }
@@ -103,8 +117,12 @@ const QHash<QString, QPainterPath>& shapes() {
 
 } // namespace
 
-bool knows(const QString& name) { return shapes().contains(name); }
+bool knows(const QString& name) {
+    return shapes().contains(name);
+}
 
-QPainterPath shape(const QString& name) { return shapes().value(name); }
+QPainterPath shape(const QString& name) {
+    return QTransform::fromScale(1 / enlarged, 1 / enlarged).map(shapes().value(name));
+}
 
 } // namespace ormiva::SymbolDrawing

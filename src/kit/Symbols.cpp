@@ -90,6 +90,8 @@ QString Symbols::glyph(const QString& name) {
     return QChar(found != table.end() && found->name == wanted ? found->glyph : unknown);
 }
 
-bool Symbols::isDrawn(const QString& name) { return SymbolDrawing::knows(name); }
+bool Symbols::isDrawn(const QString& name) {
+    return SymbolDrawing::knows(name);
+}
 
 } // namespace ormiva

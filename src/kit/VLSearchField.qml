@@ -56,7 +56,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         selectByMouse: true
-        font.family: Qt.application.font.family // The platform has a font of its own for fields.
+        font.family: VLUI.fontFamily // The platform has a font of its own for fields.
         font.pointSize: 13 * VLUI.pointsPerPixel
         color: VLUI.text
         selectionColor: VLUI.accent

@@ -6,6 +6,7 @@
 #include "VLKThemes.h"
 #include "VLZoom.h"
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QScreen>
@@ -37,7 +38,13 @@ double VLUI::pointsPerPixel() const {
     return 72 / (screen ? screen->logicalDotsPerInchY() : 96);
 }
 
-QString VLUI::iconFamily() const { return QStringLiteral("Material Design Icons"); }
+QString VLUI::fontFamily() const {
+    return QGuiApplication::font().family();
+}
+
+QString VLUI::iconFamily() const {
+    return QStringLiteral("Material Design Icons");
+}
 
 QString VLUI::shadowSource() const {
     return QStringLiteral("image://%1/%2").arg(SoftShadow::provider, SoftShadow::card);

@@ -25,8 +25,8 @@ public:
     QString name;
 };
 
-/// The look of the interface for QML: the colours of the theme in use, those that are the same in every theme,
-/// and the zoom. It follows the preferences, so that every binding takes a new theme at once.
+/// The look of the interface for QML: the colours of the theme in use, those that are the same in every
+/// theme, and the zoom. It follows the preferences, so that every binding takes a new theme at once.
 class VLUI final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -49,6 +49,7 @@ class VLUI final : public QObject {
     Q_PROPERTY(QString currentThemeID READ currentThemeID NOTIFY themeChanged FINAL)
     Q_PROPERTY(double zoom READ zoom NOTIFY zoomChanged FINAL)
     Q_PROPERTY(double pointsPerPixel READ pointsPerPixel CONSTANT FINAL)
+    Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT FINAL)
     Q_PROPERTY(QString iconFamily READ iconFamily CONSTANT FINAL)
     Q_PROPERTY(QString shadowSource READ shadowSource CONSTANT FINAL)
 
@@ -77,6 +78,8 @@ public:
     double zoom() const { return m_zoom; }
     /// What a type size in pixels is multiplied by to be a point size. Only point sizes may have fractions.
     double pointsPerPixel() const;
+    /// The application's font, for the items that the platform would give another.
+    QString fontFamily() const;
     QString iconFamily() const;
     QString shadowSource() const;
 

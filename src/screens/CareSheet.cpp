@@ -45,10 +45,13 @@ void CareSheet::setSpeciesID(const QString& id) {
 QString CareSheet::headerLine() const {
     if (!m_species)
         return {};
-    return tr("%1 · %2 SOURCES").arg(m_species->groupTitle().toUpper(), QString::number(m_species->sourceKeys().size()));
+    return tr("%1 · %2 SOURCES")
+        .arg(m_species->groupTitle().toUpper(), QString::number(m_species->sourceKeys().size()));
 }
 
-QString CareSheet::limited() const { return m_species ? m_species->limited.value_or(QString()) : QString(); }
+QString CareSheet::limited() const {
+    return m_species ? m_species->limited.value_or(QString()) : QString();
+}
 
 CareCard CareSheet::redFlags() const {
     CareCard card = m_cards.at(static_cast<qsizetype>(CareField::RedFlags));

@@ -9,12 +9,15 @@ Item {
 
     required property CareSheet sheet
 
+    // Beside a name of many lines, drawing and actions stay at the top.
+    readonly property real topmost: 8
+
     implicitHeight: Math.max(icon.height, texts.implicitHeight, actions.implicitHeight)
 
     SpeciesIcon {
         id: icon
 
-        anchors.verticalCenter: parent.verticalCenter
+        y: Math.min(header.topmost, (header.height - height) / 2)
         size: 96
         art: header.sheet.species.art
         palette: header.sheet.species.palette
@@ -27,7 +30,7 @@ Item {
         anchors.leftMargin: 20
         anchors.right: actions.left
         anchors.rightMargin: 20
-        anchors.verticalCenter: parent.verticalCenter
+        y: (header.height - height) / 2
         spacing: 4
 
         OMText {
@@ -63,7 +66,7 @@ Item {
         id: actions
 
         anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
+        y: Math.min(header.topmost, (header.height - height) / 2)
         spacing: 8
 
         VLChromeButton {

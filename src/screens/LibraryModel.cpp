@@ -50,7 +50,9 @@ QString LibraryModel::idAt(int row) const {
     return row >= 0 && row < m_results.size() ? m_results.at(row).id : QString();
 }
 
-int LibraryModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : count(); }
+int LibraryModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : count();
+}
 
 QVariant LibraryModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))

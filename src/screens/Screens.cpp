@@ -2,7 +2,9 @@
 
 namespace ormiva {
 
-QList<ScreenInfo> Screens::all() const { return {allScreens().begin(), allScreens().end()}; }
+QList<ScreenInfo> Screens::all() const {
+    return {allScreens().begin(), allScreens().end()};
+}
 
 QList<RailGroup> Screens::groups() const {
     QList<RailGroup> groups;
@@ -14,6 +16,8 @@ QList<RailGroup> Screens::groups() const {
     return groups;
 }
 
-ScreenInfo Screens::named(const QString& id) const { return info(screen(id).value_or(Screen::Home)); }
+ScreenInfo Screens::named(const QString& id) const {
+    return info(screen(id).value_or(Screen::Home));
+}
 
 } // namespace ormiva

@@ -54,12 +54,20 @@ FocusScope {
         spacing: 4
         topMargin: 4
         bottomMargin: 16
-        reuseItems: true
         highlightMoveDuration: 0
         keyNavigationEnabled: true
         T.ScrollBar.vertical: OMScrollBar {}
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Species")
+
+        // A new list is entered at its open species, or else at its top.
+        Connections {
+            target: species.results
+
+            function onModelReset() {
+                list.currentIndex = -1
+            }
+        }
 
         onActiveFocusChanged: if (activeFocus) species.enter()
         Keys.onReturnPressed: species.open(currentIndex)

@@ -70,7 +70,8 @@ void OMStore::removeRow(const QString& table, qint64 id) {
 }
 
 SQLiteDB& OMStore::writer() {
-    if (!m_durable) {
+    if (!m_durable &&
+        !m_db->isInTransaction()) { // SQLite changes nothing about syncing inside a transaction.
         StoreFile::makeDurable(*m_db);
         m_durable = true;
     }

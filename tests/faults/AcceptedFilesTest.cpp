@@ -63,6 +63,15 @@ TEST_F(AcceptedFiles, WritesAreDurable) {
     EXPECT_EQ(textOf(store.db(), QStringLiteral("foreign_keys")), QStringLiteral("1"));
 }
 
+TEST_F(AcceptedFiles, AStoresFirstWriteMayStandInATransaction) {
+    OMStore store(path);
+    store.db().transaction([&] {
+        Reminder reminder;
+        store.save(reminder);
+    });
+    EXPECT_EQ(store.reminders().size(), 1);
+}
+
 TEST_F(AcceptedFiles, OursWithAPendingWalBecomesOneFileWithAllInIt) {
     MadeDatabases::ours(path);
     MadeDatabases::leavePendingWal(path);

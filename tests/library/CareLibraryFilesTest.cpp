@@ -132,7 +132,7 @@ TEST_F(ContentOnDisk, ListsProblemsByCodePointThenTheLists) {
 TEST_F(ContentOnDisk, KeepsEachFilesProblemToItself) {
     m_content.addValidLists();
     addSpecies(u"a.json"_qs, u"a"_qs);
-    m_content.sources("{\"checked\":\"today\"}");
+    m_content.sources(R"({"checked":"today"})");
     const CareLibrary library(m_content.path());
     EXPECT_EQ(library.loadProblems(),
               QStringList({u"sources.json: sources: expected a list, found nothing"_qs}));

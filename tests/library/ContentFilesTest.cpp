@@ -163,11 +163,11 @@ TEST(ContentFile, MustBeAnObjectOfJson) {
     EXPECT_EQ(species("[]"), u"the file: expected an object, found a list"_qs);
     const QByteArray valid = Json::bytes(rabbit());
     for (const QByteArray& bytes :
-         {QByteArray(), QByteArray(" \n"), QByteArray("null"), QByteArray("\"text\""), QByteArray("5"),
-          QByteArray("{\"id\": \"rabbit\",}"), QByteArray("{'id': 'rabbit'}"),
-          QByteArray("{\"id\": \"ra\xff\"}"), QByteArray("{\"id\": NaN}"), valid.chopped(1),
-          QByteArray(valid + '}'), QByteArray(valid + valid), QByteArray("// remark\n" + valid),
-          QByteArray(5000, '[')}) {
+         {QByteArray(), QByteArray(" \n"), QByteArray("null"), QByteArray(R"("text")"), QByteArray("5"),
+          QByteArray(R"({"id": "rabbit",})"), QByteArray("{'id': 'rabbit'}"),
+          QByteArray(R"({"id": "ra)") + QByteArray("\xff") + QByteArray(R"("})"),
+          QByteArray(R"({"id": NaN})"), valid.chopped(1), QByteArray(valid + '}'), QByteArray(valid + valid),
+          QByteArray("// remark\n" + valid), QByteArray(5000, '[')}) {
         const QString told = species(bytes);
         EXPECT_TRUE(told.startsWith(u"not valid JSON: "_qs))
             << told.toStdString() << " for " << bytes.constData();

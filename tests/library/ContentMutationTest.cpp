@@ -19,10 +19,10 @@ qsizetype upTo(std::mt19937& random, qsizetype most) {
 }
 
 QByteArray mutated(std::mt19937& random, QByteArray bytes) {
-    static const QByteArray pieces[] = {"\"",      "{",       "}",        "[",       "]",
-                                        ":",       ",",       "null",     "true",    "1e999",
-                                        "\\u0000", "\\ud800", "\xf0\x9f", "\"id\":", "\xef\xbb\xbf",
-                                        "-"};
+    static const QList<QByteArray> pieces = {"\"",      "{",       "}",        "[",       "]",
+                                             ":",       ",",       "null",     "true",    "1e999",
+                                             "\\u0000", "\\ud800", "\xf0\x9f", "\"id\":", "\xef\xbb\xbf",
+                                             "-"};
     for (auto changes = 1 + upTo(random, 3); changes > 0; --changes) {
         const qsizetype at = upTo(random, bytes.size());
         switch (random() % 5) {
@@ -34,7 +34,7 @@ QByteArray mutated(std::mt19937& random, QByteArray bytes) {
             bytes.remove(at, 1 + upTo(random, 20));
             break;
         case 2:
-            bytes.insert(at, pieces[random() % std::size(pieces)]);
+            bytes.insert(at, pieces.at(upTo(random, pieces.size() - 1)));
             break;
         case 3:
             bytes.insert(at, bytes.mid(upTo(random, bytes.size()), upTo(random, 40)));

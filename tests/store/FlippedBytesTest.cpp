@@ -22,7 +22,7 @@ QByteArray soundFile() {
     for (int i = 0; i < 4; ++i) {
         Pet pet = made.addPet(u"Pet %1"_qs.arg(i));
         pet.photo = QByteArray(15000, static_cast<char>(i));
-        pet.notes = u"note "_qs.repeated(i * 20);
+        pet.notes = u"note "_qs.repeated(qsizetype(i) * 20);
         pet.birthday = OMDay{2024, 2, 3};
         made.store.save(pet);
         for (int k = 1; k <= 8; ++k) {

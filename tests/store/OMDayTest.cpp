@@ -95,7 +95,7 @@ TEST(OMDay, IsAbsentForWhatIsNotThreeNumbersInRange) {
 TEST(OMDay, ReadsBackWhatItWrites) {
     std::mt19937_64 random(5);
     for (int i = 0; i < 5000; ++i) {
-        const qint64 year = static_cast<qint64>(i % 2 ? random() % 10000 : random() >> 1);
+        const auto year = static_cast<qint64>(i % 2 ? random() % 10000 : random() >> 1);
         const OMDay day{year, static_cast<int>(random() % 12) + 1, static_cast<int>(random() % 31) + 1};
         ASSERT_EQ(OMDay::fromIso(day.iso()), day);
         ASSERT_EQ(OMDay::fromJson(json(OMDay{year % 100000, day.m, day.d}.toJson())),

@@ -24,12 +24,12 @@ void end(QProcess& process) {
     process.waitForFinished(5000);
 }
 
-/// Waits for `holds`, up to 20 seconds.
+/// Waits for `holds`, up to a minute: a busy machine is slow.
 template <typename Condition>
 bool waitFor(Condition holds) {
     QElapsedTimer timer;
     timer.start();
-    while (!timer.hasExpired(20'000)) {
+    while (!timer.hasExpired(60'000)) {
         if (holds())
             return true;
         QThread::msleep(50);
@@ -49,11 +49,15 @@ Desktop::Desktop(const QString& size) {
         stop("Xvfb", m_server);
     m_display = u':' + QString::fromLatin1(m_server.readLine().trimmed());
     m_manager.setProcessEnvironment(environment());
-    m_manager.start(QStringLiteral("openbox"), {});
-    if (!m_manager.waitForStarted())
-        stop("openbox", m_manager);
     // It manages windows as soon as it has said so on the root window.
-    if (!waitFor([this] { return xdotool({QStringLiteral("get_num_desktops")}).has_value(); }))
+    const bool managed = waitFor([this] {
+        if (m_manager.state() == QProcess::NotRunning)
+            m_manager.start(QStringLiteral("openbox"), {});
+        m_manager.waitForStarted();
+        m_manager.waitForFinished(0); // Without an event loop nobody else notices an end.
+        return xdotool({QStringLiteral("get_num_desktops")}).has_value();
+    });
+    if (!managed)
         stop("openbox does not answer", m_manager);
 }
 

@@ -47,7 +47,7 @@ public:
 
     void start(const QStringList& arguments = {});
     bool isRunning();
-    /// The id of its visible window; nothing when it has ended, or after 20 seconds.
+    /// The id of its visible window; nothing when it has ended, or after a minute.
     std::optional<QString> window(const Desktop& desktop);
     /// Waits for its end; the status, 128 + 15 when it had to be ended, or nothing when it crashed.
     std::optional<int> status(int milliseconds = 30'000);

@@ -49,7 +49,8 @@ std::optional<double> parseReal(QStringView text) {
     if (stop != end || error == std::errc::invalid_argument)
         return std::nullopt;
     if (error == std::errc::result_out_of_range) {
-        // Too large or too small; only the former is no number. QLocale tells them apart (QByteArray does not).
+        // Too large or too small; only the former is no number. QLocale tells them apart (QByteArray does
+        // not).
         value = QLocale::c().toDouble(QString::fromLatin1(*bytes));
         if (std::isinf(value))
             return std::nullopt;

@@ -7,8 +7,7 @@
 namespace ormiva::OMInfo {
 
 QString dataFolder() {
-    QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + appName;
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + appName;
     QDir().mkpath(folder); // A failure surfaces when something is written there.
     return folder;
 }

@@ -49,7 +49,8 @@ qint64 wholeDays(Instant from, Instant to);
 
 struct Age {
     int years = 0;
-    int months = 0; ///< the rest beyond the years, 0 to 11; 12 on the February 28 before a leap day's birthday
+    int months =
+        0; ///< the rest beyond the years, 0 to 11; 12 on the February 28 before a leap day's birthday
 };
 /// Whole years and months from one to the other, by the field difference of ICU; negative when `to` is
 /// earlier.

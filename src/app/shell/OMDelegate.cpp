@@ -23,6 +23,7 @@ bool OMDelegate::applicationDidFinishLaunching(SingleInstance& instance) {
     requestPermissionIfNeeded();
 
     m_debounce.setSingleShot(true);
+    m_debounce.setTimerType(Qt::PreciseTimer);
     m_debounce.setInterval(debounce);
     connect(m_store, &OMStore::revisionChanged, &m_debounce, qOverload<>(&QTimer::start));
     connect(&m_debounce, &QTimer::timeout, this, [this] {

@@ -12,9 +12,13 @@ const QList<int>& levels() {
     return percentages;
 }
 
-QString levelTitle(int percent) { return QString::number(percent) + u'%'; }
+QString levelTitle(int percent) {
+    return QString::number(percent) + u'%';
+}
 
-double clamp(double factor) { return std::clamp(std::round(factor * 100) / 100, min, max); }
+double clamp(double factor) {
+    return std::clamp(std::round(factor * 100) / 100, min, max);
+}
 
 double value() {
     const double stored = OMPrefs::value(key).toDouble();
@@ -22,6 +26,8 @@ double value() {
     return std::abs(stored) > 0 ? clamp(stored) : 1;
 }
 
-void setValue(double factor) { OMPrefs::setValue(key, clamp(factor)); }
+void setValue(double factor) {
+    OMPrefs::setValue(key, clamp(factor));
+}
 
 } // namespace ormiva::VLZoom

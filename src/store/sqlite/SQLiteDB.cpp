@@ -147,6 +147,10 @@ void SQLiteDB::transaction(const std::function<void()>& body) {
     }
 }
 
+bool SQLiteDB::isInTransaction() const {
+    return m_handle && sqlite3_get_autocommit(m_handle) == 0;
+}
+
 int SQLiteDB::changes() const {
     return m_handle ? sqlite3_changes(m_handle) : 0;
 }

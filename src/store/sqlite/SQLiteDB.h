@@ -73,6 +73,7 @@ public:
     /// again. Transactions don't nest.
     void transaction(const std::function<void()>& body);
 
+    bool isInTransaction() const;
     /// Rows changed by the last statement.
     int changes() const;
     /// SQLite's sentence for the last failure, "closed" when the connection is closed.

@@ -1,35 +1,16 @@
 #include "Opener.h"
 
+#include "DesktopStandIn.h"
 #include "Printers.h"
 
-#include <QDesktopServices>
 #include <QList>
-#include <QObject>
 
 #include <utility>
 
 namespace ormiva {
 namespace {
 
-/// Stands in for the desktop where an address has its scheme.
-class DesktopStandIn final : public QObject {
-    Q_OBJECT
-
-public:
-    explicit DesktopStandIn(const QString& scheme)
-        : m_scheme(scheme) {
-        QDesktopServices::setUrlHandler(m_scheme, this, "open");
-    }
-    ~DesktopStandIn() override { QDesktopServices::unsetUrlHandler(m_scheme); }
-
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-    void open(const QUrl& address) { opened.append(address); }
-
-private:
-    QString m_scheme;
-};
+using testing::DesktopStandIn;
 
 class RecordedFailures {
 public:
@@ -78,5 +59,3 @@ TEST(Opener, CanBeReplaced) {
 
 } // namespace
 } // namespace ormiva
-
-#include "OpenerTest.moc"
