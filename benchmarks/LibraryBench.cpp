@@ -130,11 +130,12 @@ void addLibraryPairs() {
 
     static const Database index = bareIndex(rows);
     static const QString query = QStringLiteral("stuck shed");
-    if (library.search(query).size() != bareSearch(index.get(), "\"stuck\"* AND \"shed\"*"))
+    static constexpr const char* match = R"("stuck"* AND "shed"*)";
+    if (library.search(query).size() != bareSearch(index.get(), match))
         std::abort();
     addPair(
         "one search", 1.2, [] { benchmark::DoNotOptimize(library.search(query)); },
-        [] { benchmark::DoNotOptimize(bareSearch(index.get(), "\"stuck\"* AND \"shed\"*")); });
+        [] { benchmark::DoNotOptimize(bareSearch(index.get(), match)); });
 }
 
 } // namespace ormiva::bench

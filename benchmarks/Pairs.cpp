@@ -55,10 +55,11 @@ void add(const std::string& name, const std::function<void()>& body) {
 
 } // namespace
 
-void addPair(const char* name, double limit, std::function<void()> ours, std::function<void()> bare) {
+void addPair(const char* name, double limit, const std::function<void()>& ours,
+             const std::function<void()>& bare) {
     pairs().push_back({name, limit});
-    add(name + std::string("/ours"), std::move(ours));
-    add(name + std::string("/bare"), std::move(bare));
+    add(name + std::string("/ours"), ours);
+    add(name + std::string("/bare"), bare);
 }
 
 } // namespace ormiva::bench

@@ -7,7 +7,8 @@
 namespace ormiva::bench {
 
 /// Times `ours` against `bare`; `limit` is the ratio that is aimed at, at most.
-void addPair(const char* name, double limit, std::function<void()> ours, std::function<void()> bare);
+void addPair(const char* name, double limit, const std::function<void()>& ours,
+             const std::function<void()>& bare);
 
 void addLibraryPairs();
 void addStorePairs();

@@ -8,6 +8,7 @@
 
 #include <QTemporaryDir>
 
+#include <array>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -32,8 +33,8 @@ TEST(Durability, WhatSaveReturnedForSurvivesKill) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("Pets.sqlite"));
     for (int round = 0; round < 5; ++round) {
-        int ends[2];
-        ASSERT_EQ(pipe(ends), 0);
+        std::array<int, 2> ends{};
+        ASSERT_EQ(pipe(ends.data()), 0);
         const int pid = fork();
         ASSERT_GE(pid, 0);
         if (pid == 0) {

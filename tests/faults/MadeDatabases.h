@@ -22,6 +22,6 @@ void leaveHotJournal(const QString& path, const char* sql);
 void exec(const QString& path, const char* sql);
 void flipByte(const QString& path, qint64 offset);
 QByteArray bytes(const QString& path);
-void write(const QString& path, const QByteArray& bytes);
+void write(const QString& path, const QByteArray& content);
 
 } // namespace ormiva::testing::MadeDatabases

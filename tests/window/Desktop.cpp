@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace ormiva::testing {
 
@@ -102,8 +103,8 @@ bool Desktop::picture(const QString& path) const {
 }
 
 Program::Program(const QString& home, const QString& display, const QStringList& variables,
-                 const QString& executable)
-    : m_executable(executable) {
+                 QString executable)
+    : m_executable(std::move(executable)) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})
         environment.insert(QString::fromLatin1(name), home);

@@ -40,7 +40,7 @@ class Program {
 public:
     /// `home` holds all that it writes. Further variables as "NAME=value".
     explicit Program(const QString& home, const QString& display = {}, const QStringList& variables = {},
-                     const QString& executable = QStringLiteral(ORMIVA_PROGRAM));
+                     QString executable = QStringLiteral(ORMIVA_PROGRAM));
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

@@ -39,7 +39,7 @@ protected:
     /// The screen as it is now, saved under `name` too.
     QImage picture(const Desktop& desktop, const QString& name) {
         EXPECT_TRUE(desktop.picture(picturePath(name)));
-        const QImage image(picturePath(name));
+        QImage image(picturePath(name));
         EXPECT_FALSE(image.isNull());
         return image;
     }
