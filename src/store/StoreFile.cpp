@@ -183,8 +183,8 @@ QString damage(const QString& path) {
             const int code = db.lastErrorCode();
             return code == SQLITE_CORRUPT || code == SQLITE_NOTADB ? error.payload() : QString();
         }
-    } catch (
-        const OMError&) { // The file is gone or can't be opened a second time: nothing is known to be wrong.
+    } catch (const OMError&) {
+        // The file is gone or can't be opened a second time: nothing is known to be wrong.
         return {};
     }
 }

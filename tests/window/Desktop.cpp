@@ -90,11 +90,6 @@ void Desktop::type(const QString& text) const {
     xdotool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("30"), text});
 }
 
-void Desktop::click(int x, int y) const {
-    xdotool({QStringLiteral("mousemove"), QString::number(x), QString::number(y), QStringLiteral("click"),
-             QStringLiteral("1")});
-}
-
 bool Desktop::picture(const QString& path) const {
     QProcess tool;
     tool.setProcessEnvironment(environment());

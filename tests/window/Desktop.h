@@ -23,7 +23,6 @@ public:
     std::optional<QString> xdotool(const QStringList& arguments) const;
     void key(const QString& keys) const;
     void type(const QString& text) const;
-    void click(int x, int y) const;
     /// Saves the whole screen, for somebody to look at. False when that failed.
     bool picture(const QString& path) const;
 

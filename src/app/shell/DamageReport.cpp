@@ -12,7 +12,7 @@ namespace ormiva::DamageReport {
 
 namespace {
 
-/// A message that waits already is about the records too, or will not matter any more: both are shown.
+/// There is one message at a time, and one that waits already may be about the records too: both are shown.
 void tell() {
     const QString sentence = QStringLiteral(
         "Your pet records file is damaged. Nothing was changed. Restore a backup from Settings & Backup.");
