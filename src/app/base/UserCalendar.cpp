@@ -6,9 +6,12 @@
 #include <algorithm>
 #include <limits>
 #include <memory>
+#include <unicode/basictz.h>
 #include <unicode/datefmt.h>
+#include <unicode/dtfmtsym.h>
 #include <unicode/gregocal.h>
-#include <unicode/timezone.h>
+#include <unicode/tzrule.h>
+#include <unicode/tztrans.h>
 
 namespace ormiva::UserCalendar {
 
@@ -31,24 +34,73 @@ Instant fromIcu(UDate date) {
     return Instant(std::chrono::milliseconds(static_cast<qint64>(date)));
 }
 
+/// The zone of the surroundings, looked up once; null for that of the machine.
+std::unique_ptr<icu::TimeZone>& namedZone() {
+    static std::unique_ptr<icu::TimeZone> zone;
+    return zone;
+}
+
 std::unique_ptr<icu::TimeZone> timeZone() {
-    const QString& name = surroundings().zone;
-    return std::unique_ptr<icu::TimeZone>(name.isEmpty() ? icu::TimeZone::createDefault()
-                                                         : icu::TimeZone::createTimeZone(toIcu(name)));
+    const auto& named = namedZone();
+    return std::unique_ptr<icu::TimeZone>(named ? named->clone() : icu::TimeZone::createDefault());
 }
 
 /// A Gregorian calendar in the user's zone, standing at `instant`.
 icu::GregorianCalendar calendarAt(Instant instant) {
     UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar calendar(timeZone().release(), icu::Locale::getRoot(), status);
+    // Making one reads the locale's data, copying one doesn't.
+    static const icu::GregorianCalendar prototype(icu::Locale::getRoot(), status);
+    icu::GregorianCalendar calendar = prototype;
+    calendar.adoptTimeZone(timeZone().release());
     calendar.setTime(toIcu(instant), status);
+    calendar.setSkippedWallTimeOption(UCAL_WALLTIME_NEXT_VALID);
+    calendar.setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
     return calendar;
+}
+
+/// The user's locale, with the Gregorian calendar.
+icu::Locale dateLocale() {
+    icu::Locale locale = icu::Locale::createCanonical(localeName().toLatin1().constData());
+    UErrorCode status = U_ZERO_ERROR;
+    locale.setKeywordValue("calendar", "gregorian", status);
+    return locale;
+}
+
+QString fromIcu(const icu::UnicodeString& text) {
+    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+}
+
+QString formatted(icu::DateFormat* ownedFormat, Instant instant) {
+    const std::unique_ptr<icu::DateFormat> format(ownedFormat);
+    if (!format)
+        return {};
+    format->adoptTimeZone(timeZone().release());
+    icu::UnicodeString text;
+    return fromIcu(format->format(toIcu(instant), text));
+}
+
+/// From the zone's own time to what the clocks show, in milliseconds.
+qint64 offsetAt(const icu::TimeZone& zone, UDate instant) {
+    int32_t raw = 0;
+    int32_t saving = 0;
+    UErrorCode status = U_ZERO_ERROR;
+    zone.getOffset(instant, false, raw, saving, status);
+    return raw + saving;
+}
+
+/// Whether a whole day was left out right before `instant`.
+bool followsASkippedDay(Instant instant) {
+    constexpr qint64 day = 86'400'000;
+    const std::unique_ptr<icu::TimeZone> zone = timeZone();
+    return offsetAt(*zone, toIcu(instant)) - offsetAt(*zone, toIcu(instant) - 1) >= day;
 }
 
 } // namespace
 
 void setSurroundings(Surroundings replacement) {
     surroundings() = std::move(replacement);
+    const QString& zone = surroundings().zone;
+    namedZone().reset(zone.isEmpty() ? nullptr : icu::TimeZone::createTimeZone(toIcu(zone)));
 }
 
 Instant now() {
@@ -82,6 +134,7 @@ Fields fields(Instant instant) {
 
 Instant noon(qint64 year, int month, int day) {
     icu::GregorianCalendar calendar = calendarAt({});
+    calendar.setSkippedWallTimeOption(UCAL_WALLTIME_LAST); // Noon of a skipped day is noon of the next one.
     calendar.clear();
     calendar.set(UCAL_EXTENDED_YEAR, static_cast<int32_t>(std::clamp(year, -lastYear, lastYear)));
     calendar.set(UCAL_MONTH, month - 1);
@@ -91,17 +144,34 @@ Instant noon(qint64 year, int month, int day) {
     return fromIcu(calendar.getTime(status));
 }
 
+Instant at(Instant day, int hour, int minute) {
+    icu::GregorianCalendar calendar = calendarAt(day);
+    UErrorCode status = U_ZERO_ERROR;
+    calendar.set(UCAL_HOUR_OF_DAY, hour);
+    calendar.set(UCAL_MINUTE, minute);
+    calendar.set(UCAL_SECOND, 0);
+    calendar.set(UCAL_MILLISECOND, 0);
+    return fromIcu(calendar.getTime(status));
+}
+
+Instant startOfDay(Instant instant) {
+    return at(instant, 0, 0);
+}
+
 std::optional<Instant> addingDays(Instant instant, qint64 days) {
     constexpr qint64 most = 366 * lastYear;
     if (days < -most || days > most)
         return std::nullopt;
+    if (days == 0) // The later pass of an hour that came twice stays what it is.
+        return instant;
     icu::GregorianCalendar calendar = calendarAt(instant);
     UErrorCode status = U_ZERO_ERROR;
-    calendar.add(UCAL_DATE, static_cast<int32_t>(days), status);
+    calendar.set(UCAL_JULIAN_DAY, calendar.get(UCAL_JULIAN_DAY, status) + static_cast<int32_t>(days));
     const int32_t year = calendar.get(UCAL_EXTENDED_YEAR, status);
     if (U_FAILURE(status) || year < -lastYear || year > lastYear)
         return std::nullopt;
-    return fromIcu(calendar.getTime(status));
+    const Instant later = fromIcu(calendar.getTime(status));
+    return followsASkippedDay(later) ? addingDays(instant, days + (days < 0 ? -1 : 1)) : later;
 }
 
 qint64 wholeDays(Instant from, Instant to) {
@@ -109,6 +179,30 @@ qint64 wholeDays(Instant from, Instant to) {
     UErrorCode status = U_ZERO_ERROR;
     const int32_t days = calendar.fieldDifference(toIcu(to), UCAL_DATE, status);
     return U_FAILURE(status) ? 0 : days;
+}
+
+qint64 wallClock(Instant instant) {
+    return instant.time_since_epoch().count() + offsetAt(*timeZone(), toIcu(instant));
+}
+
+QList<SkippedTime> skippedTimes(Instant from, Instant to) {
+    const std::unique_ptr<icu::TimeZone> zone = timeZone();
+    const auto* ruled = dynamic_cast<const icu::BasicTimeZone*>(zone.get());
+    QList<SkippedTime> skipped;
+    icu::TimeZoneTransition transition;
+    UDate reached = toIcu(from);
+    while (ruled && ruled->getNextTransition(reached, false, transition)) {
+        reached = transition.getTime();
+        if (reached > toIcu(to))
+            break;
+        const qint64 before = offsetAt(*zone, reached - 1);
+        const qint64 after = offsetAt(*zone, reached);
+        if (after > before) {
+            const qint64 moment = static_cast<qint64>(reached);
+            skipped.append({fromIcu(reached), moment + before, moment + after});
+        }
+    }
+    return skipped;
 }
 
 Age age(Instant from, Instant to) {
@@ -120,18 +214,43 @@ Age age(Instant from, Instant to) {
     return U_FAILURE(status) ? Age{} : Age{years, months};
 }
 
-QString mediumDate(Instant instant) {
-    icu::Locale locale = icu::Locale::createCanonical(localeName().toLatin1().constData());
+int daysInMonth(qint64 year, int month) {
+    icu::GregorianCalendar calendar = calendarAt(noon(year, month, 1));
     UErrorCode status = U_ZERO_ERROR;
-    locale.setKeywordValue("calendar", "gregorian", status);
-    const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, locale));
-    if (!format || U_FAILURE(status))
-        return {};
-    format->adoptTimeZone(timeZone().release());
-    icu::UnicodeString text;
-    format->format(toIcu(instant), text);
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
+    return calendar.getActualMaximum(UCAL_DATE, status);
+}
+
+int weekday(Instant instant) {
+    icu::GregorianCalendar calendar = calendarAt(instant);
+    UErrorCode status = U_ZERO_ERROR;
+    return calendar.get(UCAL_DAY_OF_WEEK, status);
+}
+
+int firstWeekday() {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::GregorianCalendar calendar(dateLocale(), status);
+    const UCalendarDaysOfWeek first = calendar.getFirstDayOfWeek(status);
+    return U_FAILURE(status) ? UCAL_SUNDAY : first;
+}
+
+QStringList shortWeekdays() {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::DateFormatSymbols symbols(dateLocale(), status);
+    int32_t count = 0;
+    const icu::UnicodeString* names =
+        symbols.getWeekdays(count, icu::DateFormatSymbols::FORMAT, icu::DateFormatSymbols::ABBREVIATED);
+    QStringList days;
+    for (int32_t day = UCAL_SUNDAY; day < count; ++day) // The first entry is not used.
+        days.append(fromIcu(names[day]));
+    return days;
+}
+
+QString mediumDate(Instant instant) {
+    return formatted(icu::DateFormat::createDateInstance(icu::DateFormat::kMedium, dateLocale()), instant);
+}
+
+QString shortTime(Instant instant) {
+    return formatted(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, dateLocale()), instant);
 }
 
 } // namespace ormiva::UserCalendar
