@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Files.h"
 #include "LogEntries.h"
 #include "OMError.h"
 #include "Pet.h"
@@ -72,10 +73,25 @@ public:
     /// A fingerprint of all records, 64 hexadecimal digits. Of a photo only its length goes into it.
     QString digest();
 
+    /// Writes all records to one file; see `BackupFile::write`. Throws OMError::invalid when `destination`
+    /// holds records of the keeper, OMError::database or FileError when it can't be written.
+    void backup(const QString& destination, const Files& files = Files());
+    /// The rows by table of the backup at `path`, once it has passed every check. Throws OMError::badBackup.
+    static QMap<QString, qint64> inspectBackup(const QString& path);
+    /// Replaces all records by those of a backup and gives the path of the safety copy that was made of them
+    /// before, which stays. At no point are the records lost: what fails before the backup is in place leaves
+    /// the file alone, and what fails after it puts the file back. Throws OMError::badBackup,
+    /// OMError::database or FileError.
+    QString restore(const QString& path, const Files& files = Files());
+
 Q_SIGNALS:
     void revisionChanged();
 
 private:
+    /// The file that is replaced by a restore: where `url` leads to.
+    QString realPath() const;
+    /// Works on with the file that now stands at `path`, and never makes one there.
+    void reopen(const QString& path, const Files& files);
     QList<SQLRow> rows(const QString& table, const QString& where, const SQLArguments& arguments,
                        const QString& order);
     void write(const QString& table, const QStringList& columns, SQLArguments values, qint64& id);

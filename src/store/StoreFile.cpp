@@ -57,17 +57,6 @@ void makePrivate(const QString& path, mode_t mode) {
         ::chmod(QFile::encodeName(path).constData(), 0600);
 }
 
-bool isInWalMode(const QString& path) {
-    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        return false; // What can't be read is refused by SQLite.
-    // Offsets 18 and 19 of the header: write and read version, 2 for WAL.
-    std::array<char, 20> header{};
-    const bool whole = ::read(file, header.data(), header.size()) == static_cast<ssize_t>(header.size());
-    ::close(file);
-    return whole && (header[18] == 2 || header[19] == 2);
-}
-
 enum class Standing { Empty, Ours };
 
 /// The number in the one row of `sql`. Throws where `SQLiteDB::scalarInt` gives 0: here an unreadable number
@@ -156,6 +145,17 @@ std::unique_ptr<SQLiteDB> open(const QString& path) {
     auto db = std::make_unique<SQLiteDB>(path);
     migrate(*db);
     return db;
+}
+
+bool isInWalMode(const QString& path) {
+    const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (file < 0)
+        return false; // What can't be read is refused by SQLite.
+    // Offsets 18 and 19 of the header: write and read version, 2 for WAL.
+    std::array<char, 20> header{};
+    const bool whole = ::read(file, header.data(), header.size()) == static_cast<ssize_t>(header.size());
+    ::close(file);
+    return whole && (header[18] == 2 || header[19] == 2);
 }
 
 void migrate(SQLiteDB& db) {

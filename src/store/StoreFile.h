@@ -17,6 +17,9 @@ std::unique_ptr<SQLiteDB> open(const QString& path);
 /// Brings an open file to the present version: fills an empty one, accepts one of ours, refuses any other.
 void migrate(SQLiteDB& db);
 
+/// True for a database in write-ahead mode, which even reading leaves siblings beside.
+bool isInWalMode(const QString& path);
+
 /// Makes every commit of this connection survive a loss of power: EXTRA syncs the folder too after the
 /// journal is deleted, which FULL doesn't. To be called before the first write; it reads the whole schema, so
 /// opening doesn't wait for it.
