@@ -1,0 +1,30 @@
+#include "FilePanels.h"
+
+#include "AppModel.h"
+#include "BackupFile.h"
+#include "OMStore.h"
+#include "RecordFiles.h"
+#include "WholeFile.h"
+
+namespace ormiva {
+
+FileType FileType::backup() {
+    return {QStringLiteral("VLK Ormiva backup"), BackupFile::suffix, BackupFile::typeIdentifier};
+}
+
+void FilePanels::exportData(const QByteArray& data, const QString& name, const FileType& type,
+                            AppModel& model, const OMStore& store) {
+    const auto destination = save(name, {type});
+    if (!destination)
+        return;
+    try {
+        RecordFiles::refuseAsDestination(*destination, store.url());
+        WholeFile::write(*destination, data);
+    } catch (const Failure& failure) {
+        model.setMessage(QStringLiteral("The file could not be saved: ") + failure.description());
+        return;
+    }
+    reveal(*destination);
+}
+
+} // namespace ormiva

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace ormiva {
+
+class AppModel;
+class OMStore;
+
+/// A kind of file that a panel offers.
+struct FileType {
+    QString name;       ///< for the user
+    QString suffix;     ///< without the dot
+    QString identifier; ///< under which the system knows it
+
+    static FileType backup();
+
+    friend bool operator==(const FileType&, const FileType&) = default;
+};
+
+/// Where the user chooses files. The desktop's dialogues stand behind it, and in tests a script.
+class FilePanels {
+public:
+    FilePanels() = default;
+    virtual ~FilePanels() = default;
+    FilePanels(const FilePanels&) = delete;
+    FilePanels& operator=(const FilePanels&) = delete;
+
+    /// Asks where to save, offering `name`; absent when the user didn't confirm. The result ends in the
+    /// suffix of one of `types`, and the user has agreed to replace a file that is there.
+    virtual std::optional<QString> save(const QString& name, const QList<FileType>& types) = 0;
+    /// Asks for one file that exists; absent when the user didn't confirm.
+    virtual std::optional<QString> open(const QList<FileType>& types, const QString& message) = 0;
+    /// Shows a file in the desktop's file manager.
+    virtual void reveal(const QString& path) = 0;
+
+    /// Asks where to save, writes `data` there whole or not at all and reveals the file. A failure becomes
+    /// the message of `model`. `store` is the one whose files must not be overwritten.
+    void exportData(const QByteArray& data, const QString& name, const FileType& type, AppModel& model,
+                    const OMStore& store);
+};
+
+} // namespace ormiva
