@@ -79,6 +79,7 @@ int main(int argc, char** argv) {
 
     addLibraryPairs();
     addStorePairs();
+    addTrackingPairs();
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
 

@@ -12,5 +12,6 @@ void addPair(const char* name, double limit, const std::function<void()>& ours,
 
 void addLibraryPairs();
 void addStorePairs();
+void addTrackingPairs();
 
 } // namespace ormiva::bench

@@ -46,6 +46,8 @@ Outcome notBuilt(const QString& flag) {
 const Outcome noDisplay = {
     1, {}, QStringLiteral("Ormiva needs a graphical desktop, and none could be reached.\n"), {}};
 
+const QString preferences = QStringLiteral("THEME|rainforest-canopy\nZOOM|1.0\nUNIT|g\n");
+
 QStringList words(const char* line) {
     return QString::fromUtf8(line).split(u' ', Qt::SkipEmptyParts);
 }
@@ -53,28 +55,53 @@ QStringList words(const char* line) {
 } // namespace
 
 TEST(CommandLines, ToolsNeedNoDisplayAndTouchNothing) {
-    EXPECT_EQ(run(words("--selftest")), notBuilt(QStringLiteral("--selftest")));
-    EXPECT_EQ(run(words("--om-child-prefs")), notBuilt(QStringLiteral("--om-child-prefs")));
-    EXPECT_EQ(run(words("--om-child-write records.sqlite")), notBuilt(QStringLiteral("--om-child-write")));
-    EXPECT_EQ(run(words("--om-child-read records.sqlite")), notBuilt(QStringLiteral("--om-child-read")));
+    EXPECT_EQ(run(words("--om-child-prefs")).output, preferences);
     EXPECT_EQ(run(words("--om-snapshots pictures")), notBuilt(QStringLiteral("--om-snapshots")));
     EXPECT_EQ(run(words("--om-example-care-sheet sheet.pdf")),
               notBuilt(QStringLiteral("--om-example-care-sheet")));
 }
 
-TEST(CommandLines, ToolsDoNotLookAtTheRecordsOrTheContent) {
-    EXPECT_EQ(run(words("--selftest"), words("OM_DB_PATH=/nowhere/x.sqlite OM_DATA_DIR=/nowhere")),
-              notBuilt(QStringLiteral("--selftest")));
+TEST(CommandLines, TheSelfTestPassesAndLeavesNothingBehind) {
+    const TemporaryFolder home;
+    const QByteArray settings("[General]\nom.weightUnit=oz\n");
+    home.write(QStringLiteral("com.ventrel.ormiva.ini"), settings);
+    const QByteArray records = "these are the keeper's records";
+    home.write(QStringLiteral("Pets.sqlite"), records);
+    Program program(home.path(), {},
+                    {QStringLiteral("OM_DB_PATH=") + home.file(QStringLiteral("Pets.sqlite")),
+                     QStringLiteral("OM_SELFTEST_MUTATE=redflag"), QStringLiteral("TMPDIR=") + home.path()});
+    program.start(words("--selftest"));
+    const auto status = program.status(120'000);
+    const QString output = program.output();
+    EXPECT_EQ(status, 0) << output.toStdString();
+    const QStringList lines = output.trimmed().split(u'\n');
+    EXPECT_TRUE(lines.first().startsWith(QStringLiteral("VLK Ormiva self-test — ")))
+        << lines.first().toStdString();
+    EXPECT_TRUE(lines.first().endsWith(QStringLiteral(" — MUTATION \"redflag\": failures are EXPECTED")));
+    EXPECT_EQ(lines.last(),
+              QStringLiteral("ALL %1 CHECKS PASSED").arg(lines.filter(QStringLiteral("PASS  ")).size()));
+    EXPECT_GE(lines.filter(QStringLiteral("PASS  ")).size(), 90);
+    EXPECT_EQ(lines.filter(QStringLiteral("== ")).size(), 8);
+    EXPECT_EQ(home.read(QStringLiteral("Pets.sqlite")), records);
+    EXPECT_EQ(home.read(QStringLiteral("com.ventrel.ormiva.ini")), settings);
+    EXPECT_EQ(QDir(home.path()).entryList({QStringLiteral("om-selftest-*")}), QStringList());
+    EXPECT_FALSE(QDir(home.path()).exists(QStringLiteral("VLK Ormiva/Pets.sqlite")));
+}
+
+TEST(CommandLines, TheSelfTestFailsOnContentThatIsMissing) {
+    const Outcome outcome = run(words("--selftest"), words("OM_DATA_DIR=/nowhere"));
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_TRUE(outcome.output.contains(QStringLiteral("FAIL  the library holds 30 to 40 species (0)")));
+    EXPECT_TRUE(outcome.output.trimmed().section(u'\n', -1).contains(QStringLiteral(" FAILED, ")));
 }
 
 TEST(CommandLines, TheChildEntryIsAskedFirst) {
-    EXPECT_EQ(run(words("--selftest --om-child-prefs")), notBuilt(QStringLiteral("--om-child-prefs")));
+    EXPECT_EQ(run(words("--selftest --om-child-prefs")).output, preferences);
 }
 
 TEST(CommandLines, AFlagWithoutItsPathIsNoToolRun) {
     EXPECT_EQ(run(words("--om-child-write")), noDisplay);
     EXPECT_EQ(run(words("--om-snapshots")), noDisplay);
-    EXPECT_EQ(run(words("--selftest --om-example-care-sheet")), notBuilt(QStringLiteral("--selftest")));
 }
 
 TEST(CommandLines, WithoutADisplayOneSentenceSaysSo) {
