@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "OMMutation.h"
+#include "OMNotify.h"
 #include "OMPrefs.h"
 #include "OMSetup.h"
 #include "Opener.h"
@@ -81,6 +82,10 @@ void runSections(OMTestRun& run, const QString& scratch) {
     relaunchTests(run, scratch);
     run.begin(QStringLiteral("Reminders: next due, overdue, notifications"));
     reminderTests(run, scratch);
+    run.begin(QStringLiteral("Export a pet's records for the vet (PDF and CSV)"));
+    exportTests(run, scratch);
+    run.begin(QStringLiteral("Printable care sheet (PDF) for a pet"));
+    careSheetTests(run, scratch);
     run.begin(QStringLiteral("Backup and restore"));
     backupTests(run, scratch);
 }
@@ -90,6 +95,7 @@ void runSections(OMTestRun& run, const QString& scratch) {
 int run() {
     const QString mutation = qEnvironmentVariable("OM_SELFTEST_MUTATE");
     SymptomChecker::mutateIgnoreRedFlags = OMMutation::on(QStringLiteral("redflag"));
+    OMNotify::enabled = false;
     QList<QUrl> opened;
     Opener::open = [&opened](const QUrl& address) { opened.append(address); };
 

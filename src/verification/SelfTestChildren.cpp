@@ -1,6 +1,7 @@
 // The child processes of the relaunch section.
 
 #include "Numbers.h"
+#include "OMNotify.h"
 #include "OMPrefs.h"
 #include "OMSelfTest.h"
 #include "OMSetup.h"
@@ -161,8 +162,10 @@ std::optional<QString> pathBehind(const QStringList& arguments, const QString& f
 } // namespace
 
 std::optional<int> handleChild(const QStringList& arguments) {
-    if (const auto path = pathBehind(arguments, QStringLiteral("--om-child-write")))
+    if (const auto path = pathBehind(arguments, QStringLiteral("--om-child-write"))) {
+        OMNotify::enabled = false;
         return childWrite(*path);
+    }
     if (const auto path = pathBehind(arguments, QStringLiteral("--om-child-read")))
         return childRead(*path);
     if (arguments.contains(QStringLiteral("--om-child-prefs")))

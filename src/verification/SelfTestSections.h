@@ -14,6 +14,8 @@ void searchTests(OMTestRun& run);
 void recordTests(OMTestRun& run, const QString& scratch);
 void relaunchTests(OMTestRun& run, const QString& scratch);
 void reminderTests(OMTestRun& run, const QString& scratch);
+void exportTests(OMTestRun& run, const QString& scratch);
+void careSheetTests(OMTestRun& run, const QString& scratch);
 void backupTests(OMTestRun& run, const QString& scratch);
 
 } // namespace ormiva::OMSelfTest

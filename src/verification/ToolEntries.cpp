@@ -1,5 +1,6 @@
 #include "ToolEntries.h"
 
+#include "CareSheetPDF.h"
 #include "OMSelfTest.h"
 
 #include <QGuiApplication>
@@ -25,7 +26,8 @@ int notBuiltYet(QStringView flag, const QStringList&) {
     return std::fflush(stdout) == 0 ? statusNotBuilt : 1;
 }
 
-/// Runs a tool with an application object that needs no display.
+/// Runs a tool with an application object of its own, which needs no display.
+template <typename Application>
 int withApplication(const std::function<int()>& tool) {
     if (QCoreApplication::instance())
         return tool();
@@ -33,16 +35,21 @@ int withApplication(const std::function<int()>& tool) {
     static std::array<char, 7> name = {"ormiva"};
     static std::array<char*, 2> arguments = {name.data(), nullptr};
     int count = 1;
-    const QGuiApplication application(count, arguments.data());
+    const Application application(count, arguments.data());
     return tool();
 }
 
 int runChild(QStringView, const QStringList& arguments) {
-    return withApplication([&] { return OMSelfTest::handleChild(arguments).value_or(1); });
+    return withApplication<QCoreApplication>([&] { return OMSelfTest::handleChild(arguments).value_or(1); });
+}
+
+int writeExample(QStringView, const QStringList& arguments) {
+    return withApplication<QCoreApplication>(
+        [&] { return CareSheetPDF::handleExample(arguments).value_or(1); });
 }
 
 int runSelfTest(QStringView, const QStringList&) {
-    return withApplication([] { return OMSelfTest::run(); });
+    return withApplication<QGuiApplication>([] { return OMSelfTest::run(); });
 }
 
 /// In the order in which they are asked: the first whose flag is given decides.
@@ -51,7 +58,7 @@ constexpr std::array<ToolEntry, 6> entries = {{
     {u"--om-child-read", true, runChild},
     {u"--om-child-prefs", false, runChild},
     {u"--om-snapshots", true, notBuiltYet},
-    {u"--om-example-care-sheet", true, notBuiltYet},
+    {u"--om-example-care-sheet", true, writeExample},
     {u"--selftest", false, runSelfTest},
 }};
 

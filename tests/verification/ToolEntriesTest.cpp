@@ -84,7 +84,10 @@ TEST(ToolEntries, TheThirdChildTellsThePreferences) {
 TEST(ToolEntries, AFlagIsFoundAnywhere) {
     EXPECT_EQ(run({u"a"_qs, prefs, u"c"_qs}), (Outcome{0, preferences}));
     EXPECT_EQ(run({u"a"_qs, snapshots, u"pictures"_qs, u"c"_qs}), notBuilt(snapshots));
-    EXPECT_EQ(run({sheet, u"sheet.pdf"_qs}), notBuilt(sheet));
+    const TemporaryFolder folder;
+    const QString path = folder.file(u"sheet.pdf"_qs);
+    EXPECT_EQ(run({u"a"_qs, sheet, path, u"c"_qs}), (Outcome{0, u"wrote %1\n"_qs.arg(path)}));
+    EXPECT_TRUE(folder.read(u"sheet.pdf"_qs).startsWith("%PDF-"));
 }
 
 TEST(ToolEntries, TheOrderOfTheEntriesDecidesNotThatOfTheFlags) {
@@ -95,7 +98,8 @@ TEST(ToolEntries, TheOrderOfTheEntriesDecidesNotThatOfTheFlags) {
     EXPECT_EQ(written, (Outcome{0, u"DIGEST|"_qs + OMStore(path).digest() + u'\n'}));
     EXPECT_FALSE(QDir(folder.path()).exists(u"b.sqlite"_qs));
     EXPECT_EQ(run({u"--selftest"_qs, sheet, u"a"_qs, snapshots, u"b"_qs}), notBuilt(snapshots));
-    EXPECT_EQ(run({u"--selftest"_qs, sheet, u"a"_qs}), notBuilt(sheet));
+    const QString pdf = folder.file(u"a.pdf"_qs);
+    EXPECT_EQ(run({u"--selftest"_qs, sheet, pdf}), (Outcome{0, u"wrote %1\n"_qs.arg(pdf)}));
 }
 
 TEST(ToolEntries, WithoutItsPathAFlagCountsAsNotGiven) {
@@ -103,7 +107,9 @@ TEST(ToolEntries, WithoutItsPathAFlagCountsAsNotGiven) {
     EXPECT_EQ(run({read}), window);
     EXPECT_EQ(run({snapshots}), window);
     EXPECT_EQ(run({sheet}), window);
-    EXPECT_EQ(run({sheet, u"a.pdf"_qs, write}), notBuilt(sheet));
+    const TemporaryFolder folder;
+    const QString pdf = folder.file(u"a.pdf"_qs);
+    EXPECT_EQ(run({sheet, pdf, write}), (Outcome{0, u"wrote %1\n"_qs.arg(pdf)}));
 }
 
 TEST(ToolEntries, WhateverStandsBehindAFlagIsItsPath) {
