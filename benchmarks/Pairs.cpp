@@ -80,6 +80,7 @@ int main(int argc, char** argv) {
     addLibraryPairs();
     addStorePairs();
     addTrackingPairs();
+    addDocumentPairs();
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
 

@@ -13,5 +13,6 @@ void addPair(const char* name, double limit, const std::function<void()>& ours,
 void addLibraryPairs();
 void addStorePairs();
 void addTrackingPairs();
+void addDocumentPairs();
 
 } // namespace ormiva::bench

@@ -4,6 +4,7 @@
 #include "PDFFlow.h"
 #include "PhotoSurface.h"
 
+#include <QCache>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -74,6 +75,23 @@ QByteArray linkTarget(const QString& address) {
     return address.toUtf8().toPercentEncoding(QByteArrayLiteral(":/?#[]@!$&*+=%"));
 }
 
+/// What a layout is made of.
+struct LayoutKey {
+    QString text;
+    double size;
+    PdfWeight weight;
+    double width;
+
+    friend bool operator==(const LayoutKey&, const LayoutKey&) = default;
+    friend size_t qHash(const LayoutKey& key, size_t seed = 0) {
+        return qHashMulti(seed, key.text, key.size, static_cast<int>(key.weight), key.width);
+    }
+};
+
+/// Characters of the layouts that are kept, each with some for what a layout takes in any case.
+constexpr qsizetype layoutBudget = 200'000;
+constexpr qsizetype layoutOverhead = 400;
+
 } // namespace
 
 struct CairoCanvas::Parts {
@@ -83,27 +101,42 @@ struct CairoCanvas::Parts {
     Owned<PangoContext> pango;
     int page = 0;
 
-    Owned<PangoLayout> layout(const QString& text, const PdfTextStyle& style, double width) const {
-        Owned<PangoLayout> layout(pango_layout_new(pango.get()));
-        const QByteArray utf8 = text.toUtf8();
-        pango_layout_set_text(layout.get(), utf8.constData(), static_cast<int>(utf8.size()));
-        PangoFontDescription* font = pango_font_description_from_string("Inter, sans-serif");
-        pango_font_description_set_weight(font, pangoWeight(style.weight));
-        pango_font_description_set_absolute_size(font, style.size * PANGO_SCALE);
-        pango_layout_set_font_description(layout.get(), font);
-        pango_font_description_free(font);
-        // Inter's contextual alternates would print other characters than were typed.
-        PangoAttrList* attributes = pango_attr_list_new();
-        pango_attr_list_insert(attributes, pango_attr_font_features_new("calt=0"));
-        pango_layout_set_attributes(layout.get(), attributes);
-        pango_attr_list_unref(attributes);
-        pango_layout_set_width(layout.get(), static_cast<int>(std::floor(width * PANGO_SCALE)));
-        pango_layout_set_wrap(layout.get(), PANGO_WRAP_WORD_CHAR);
+    QCache<LayoutKey, Owned<PangoLayout>> layouts{layoutBudget};
+
+    /// Valid until the next call: a text is measured and then drawn, and many stand in a document again and
+    /// again.
+    PangoLayout* layout(const QString& text, const PdfTextStyle& style, double width) {
+        const LayoutKey key{text, style.size, style.weight, width};
+        if (const auto* known = layouts.object(key))
+            return known->get();
+        auto made = std::make_unique<Owned<PangoLayout>>(make(key));
+        PangoLayout* layout = made->get();
+        // A text above the budget is kept all the same, until the next one comes.
+        layouts.insert(key, made.release(), std::min(text.size() + layoutOverhead, layoutBudget));
         return layout;
     }
-
+    Owned<PangoLayout> make(const LayoutKey& key) const;
     void linkAddresses(PangoLayout* layout, const QString& text, const QRectF& box) const;
 };
+
+Owned<PangoLayout> CairoCanvas::Parts::make(const LayoutKey& key) const {
+    Owned<PangoLayout> layout(pango_layout_new(pango.get()));
+    const QByteArray utf8 = key.text.toUtf8();
+    pango_layout_set_text(layout.get(), utf8.constData(), static_cast<int>(utf8.size()));
+    PangoFontDescription* font = pango_font_description_from_string("Inter, sans-serif");
+    pango_font_description_set_weight(font, pangoWeight(key.weight));
+    pango_font_description_set_absolute_size(font, key.size * PANGO_SCALE);
+    pango_layout_set_font_description(layout.get(), font);
+    pango_font_description_free(font);
+    // Inter's contextual alternates would print other characters than were typed.
+    PangoAttrList* attributes = pango_attr_list_new();
+    pango_attr_list_insert(attributes, pango_attr_font_features_new("calt=0"));
+    pango_layout_set_attributes(layout.get(), attributes);
+    pango_attr_list_unref(attributes);
+    pango_layout_set_width(layout.get(), static_cast<int>(std::floor(key.width * PANGO_SCALE)));
+    pango_layout_set_wrap(layout.get(), PANGO_WRAP_WORD_CHAR);
+    return layout;
+}
 
 CairoCanvas::CairoCanvas(const PdfInfo& info)
     : m(std::make_unique<Parts>()) {
@@ -141,17 +174,17 @@ void CairoCanvas::endPage() {
 }
 
 double CairoCanvas::heightOf(const QString& text, const PdfTextStyle& style, double width, double limit) {
-    const Owned<PangoLayout> layout = m->layout(text, style, width);
+    PangoLayout* layout = m->layout(text, style, width);
     int height = 0;
-    pango_layout_get_size(layout.get(), nullptr, &height);
+    pango_layout_get_size(layout, nullptr, &height);
     return std::min(points(height), limit);
 }
 
 void CairoCanvas::drawText(const QString& text, const PdfTextStyle& style, const QRectF& box) {
-    const Owned<PangoLayout> layout = m->layout(text, style, box.width());
+    PangoLayout* layout = m->layout(text, style, box.width());
     setColor(m->context, style.color);
     const std::unique_ptr<PangoLayoutIter, decltype(&pango_layout_iter_free)> line(
-        pango_layout_get_iter(layout.get()), pango_layout_iter_free);
+        pango_layout_get_iter(layout), pango_layout_iter_free);
     do {
         PangoRectangle extents;
         pango_layout_iter_get_line_extents(line.get(), nullptr, &extents);
@@ -162,10 +195,12 @@ void CairoCanvas::drawText(const QString& text, const PdfTextStyle& style, const
                       box.y() + points(pango_layout_iter_get_baseline(line.get())));
         pango_cairo_show_layout_line(m->context, pango_layout_iter_get_line_readonly(line.get()));
     } while (pango_layout_iter_next_line(line.get()));
-    m->linkAddresses(layout.get(), text, box);
+    m->linkAddresses(layout, text, box);
 }
 
 void CairoCanvas::Parts::linkAddresses(PangoLayout* layout, const QString& text, const QRectF& box) const {
+    if (!text.contains(QStringLiteral("://")))
+        return;
     static const QRegularExpression address(QStringLiteral("https?://[!-+\\--:<-~]+"));
     for (const QRegularExpressionMatch& match : address.globalMatch(text)) {
         const int begin = static_cast<int>(text.first(match.capturedStart()).toUtf8().size());
@@ -205,9 +240,9 @@ void CairoCanvas::Parts::linkAddresses(PangoLayout* layout, const QString& text,
 }
 
 qsizetype CairoCanvas::fitting(const QString& text, const PdfTextStyle& style, double width, double height) {
-    const Owned<PangoLayout> layout = m->layout(text, style, width);
+    PangoLayout* layout = m->layout(text, style, width);
     const std::unique_ptr<PangoLayoutIter, decltype(&pango_layout_iter_free)> line(
-        pango_layout_get_iter(layout.get()), pango_layout_iter_free);
+        pango_layout_get_iter(layout), pango_layout_iter_free);
     while (pango_layout_iter_next_line(line.get())) {
         PangoRectangle extents;
         pango_layout_iter_get_line_extents(line.get(), nullptr, &extents);

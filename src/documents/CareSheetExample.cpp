@@ -110,7 +110,8 @@ std::optional<int> handleExample(const QStringList& arguments) {
     PassingStore passing;
     try {
         OMStore& store = passing.open();
-        const Pet pet = examplePet(store);
+        Pet pet;
+        store.db().transaction([&] { pet = examplePet(store); }); // One sync instead of fourteen.
         WholeFile::write(path, make(pet, store, UserCalendar::now()));
     } catch (const Failure& failure) {
         say(QStringLiteral("ERROR|") + failure.description());

@@ -94,7 +94,7 @@ void head(PDFFlow& flow, const Pet& pet, const std::optional<Species>& species) 
 void about(PDFFlow& flow, const Pet& pet, const std::optional<Species>& species,
            const QList<WeightEntry>& weights, const QList<VetVisit>& visits, Instant now) {
     const auto line = [&](const QString& text) { flow.longText(text, PDFFlow::bodyA); };
-    flow.heading(QStringLiteral("About ") + pet.name);
+    PetPages::section(flow, QStringLiteral("About ") + pet.name);
     line(QStringLiteral("Name: ") + pet.name);
     line(QStringLiteral("Species: ") + PetPages::speciesName(pet, species) +
          (species ? QStringLiteral(" (%1)").arg(species->scientific) : QString()));
@@ -112,7 +112,7 @@ void about(PDFFlow& flow, const Pet& pet, const std::optional<Species>& species,
 }
 
 void weightLog(PDFFlow& flow, const QList<WeightEntry>& weights) {
-    flow.heading(QStringLiteral("Weight log (grams)"));
+    PetPages::section(flow, QStringLiteral("Weight log (grams)"));
     flow.chart(PetPages::chartPoints(weights), QStringLiteral("grams"));
     QList<QStringList> rows;
     for (const WeightEntry& weight : LogAnalysis::latestWeights(weights))
@@ -124,7 +124,7 @@ void weightLog(PDFFlow& flow, const QList<WeightEntry>& weights) {
 }
 
 void reminderTable(PDFFlow& flow, const Pet& pet, const QList<Due>& due, Instant now) {
-    flow.heading(QStringLiteral("Upcoming reminders"));
+    PetPages::section(flow, QStringLiteral("Upcoming reminders"));
     QList<QStringList> rows;
     for (const Due& entry : due) {
         const qint64 days = entry.reminder.everyDays;
@@ -150,7 +150,7 @@ QString findAVet(const std::optional<Species>& species) {
 
 void vetReminders(PDFFlow& flow, const Pet& pet, const std::optional<Species>& species, const QList<Due>& due,
                   const QList<VetVisit>& visits, Instant now) {
-    flow.heading(QStringLiteral("Vet-visit reminders"));
+    PetPages::section(flow, QStringLiteral("Vet-visit reminders"));
     bool any = false;
     for (const Due& entry : due) {
         if (entry.reminder.kind != ReminderKind::Vet)
@@ -187,21 +187,26 @@ QString sourceLabels(const CitedText& text) {
 
 void careBasics(PDFFlow& flow, const std::optional<Species>& species) {
     if (!species) {
-        flow.heading(QStringLiteral("Care basics"));
+        PetPages::section(flow, QStringLiteral("Care basics"));
         flow.text(
             QStringLiteral("This pet's species isn't in the care library, so no care basics can be printed."),
             PDFFlow::bodyA);
         return;
     }
-    flow.heading(species->name + QStringLiteral(" care basics"));
+    const auto roomOf = [&](const Field& field) {
+        return flow.textHeight(field.heading, fieldHeading) +
+               flow.textHeight(species->field(field.field).t, PDFFlow::bodyA, fieldIndent);
+    };
+    PetPages::section(flow, species->name + QStringLiteral(" care basics"), roomOf(fields().first()));
     if (species->limited && !species->limited->isEmpty())
         flow.longText(*species->limited, PDFFlow::smallA);
-    for (const auto& [field, heading] : fields()) {
-        const CitedText text = species->field(field);
+    for (const Field& field : fields()) {
+        const CitedText text = species->field(field.field);
         if (text.t.isEmpty())
             continue;
-        flow.need(46);
-        flow.text(heading, fieldHeading);
+        // A heading stays with its text, which is not split.
+        flow.need(std::clamp(roomOf(field), 46.0, PDFFlow::bottom - PDFFlow::margin));
+        flow.text(field.heading, fieldHeading);
         flow.longText(text.t, PDFFlow::bodyA, fieldIndent);
         if (const QString labels = sourceLabels(text); !labels.isEmpty())
             flow.longText(QStringLiteral("Sources: ") + labels, PDFFlow::smallA, fieldIndent);

@@ -59,6 +59,7 @@ void PDFFlow::newPage() {
     }
     m_canvas->beginPage();
     ++m_page;
+    m_clear = {};
     y = margin;
 }
 
@@ -76,11 +77,24 @@ void PDFFlow::space(double height) {
     y += height;
 }
 
+double PDFFlow::textWidth() const {
+    constexpr double gap = 8;
+    return y < m_clear.bottom() ? m_clear.left() - gap - margin : width;
+}
+
 void PDFFlow::text(const QString& text, const PdfTextStyle& style, double indent) {
-    const double height = m_canvas->heightOf(text, style, width - indent, heightLimit);
-    need(height + 2);
-    m_canvas->drawText(text, style, {margin + indent, y, width - indent, height + 2});
+    const auto measured = [&] { return m_canvas->heightOf(text, style, textWidth() - indent, heightLimit); };
+    double height = measured();
+    if (y + height + 2 > bottom) {
+        newPage();
+        height = measured();
+    }
+    m_canvas->drawText(text, style, {margin + indent, y, textWidth() - indent, height + 2});
     y += std::ceil(height) + 3;
+}
+
+double PDFFlow::textHeight(const QString& text, const PdfTextStyle& style, double indent) {
+    return std::ceil(m_canvas->heightOf(text, style, width - indent, heightLimit)) + 3;
 }
 
 void PDFFlow::longText(const QString& whole, const PdfTextStyle& style, double indent) {
@@ -141,30 +155,27 @@ void PDFFlow::tableRow(const QList<Column>& columns, const QStringList& cells, b
     y += height;
 }
 
-QList<PDFFlow::Row> PDFFlow::wholeRows(const QList<Column>& columns, const QList<QStringList>& rows) {
-    QList<Row> whole;
-    for (const QStringList& cells : rows) {
-        Row row{cells, false};
-        for (bool isCut = true; isCut;) {
-            isCut = false;
-            Row rest{QStringList(cells.size()), true};
-            for (qsizetype i = 0; i < row.cells.size(); ++i) {
-                QString& cell = row.cells[i];
-                const double room = columns.at(i).width - 2 * cellPadding;
-                if (m_canvas->heightOf(cell, cellA, room, heightLimit) <= cellLimit)
-                    continue;
-                const qsizetype fitting = m_canvas->fitting(cell, cellA, room, cellLimit);
-                rest.cells[i] = cell.sliced(fitting);
-                cell.truncate(fitting);
-                if (cell.endsWith(u'\n'))
-                    cell.chop(1);
-                isCut = isCut || !rest.cells.at(i).isEmpty();
-            }
-            whole.append(row);
-            row = rest;
+QList<QStringList> PDFFlow::pieces(const QList<Column>& columns, QStringList cells) {
+    QList<QStringList> pieces;
+    for (bool isCut = true; isCut;) {
+        isCut = false;
+        QStringList rest(cells.size());
+        for (qsizetype i = 0; i < cells.size(); ++i) {
+            QString& cell = cells[i];
+            const double room = columns.at(i).width - 2 * cellPadding;
+            if (m_canvas->heightOf(cell, cellA, room, heightLimit) <= cellLimit)
+                continue;
+            const qsizetype fitting = m_canvas->fitting(cell, cellA, room, cellLimit);
+            rest[i] = cell.sliced(fitting);
+            cell.truncate(fitting);
+            if (cell.endsWith(u'\n'))
+                cell.chop(1);
+            isCut = isCut || !rest.at(i).isEmpty();
         }
+        pieces.append(cells);
+        cells = rest;
     }
-    return whole;
+    return pieces;
 }
 
 void PDFFlow::table(const QStringList& headers, const QList<QStringList>& rows, const QList<double>& widths) {
@@ -178,11 +189,9 @@ void PDFFlow::table(const QStringList& headers, const QList<QStringList>& rows, 
     tableHeader(columns);
     if (rows.isEmpty())
         return text(QStringLiteral("None recorded."), smallA, cellPadding);
-    int number = -1;
-    for (const Row& row : wholeRows(columns, rows)) {
-        number += row.continues ? 0 : 1;
-        tableRow(columns, row.cells, number % 2 == 1);
-    }
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        for (const QStringList& cells : pieces(columns, rows.at(i)))
+            tableRow(columns, cells, i % 2 == 1);
     y += 4;
 }
 

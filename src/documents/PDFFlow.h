@@ -30,12 +30,6 @@ public:
     static const PdfTextStyle headA;
     static const PdfTextStyle cellA;
 
-    /// A row of a table. One that continues the row before it keeps its stripe.
-    struct Row {
-        QStringList cells;
-        bool continues = false;
-    };
-
     /// Begins page 1. `footer` stands at the foot of every page, with the page's number.
     PDFFlow(QString footer, std::unique_ptr<PdfCanvas> canvas);
 
@@ -52,6 +46,8 @@ public:
     /// One wrapped block, never split: one higher than a page is drawn from the top of a page and runs off
     /// it.
     void text(const QString& text, const PdfTextStyle& style, double indent = 0);
+    /// How far `text` would move the cursor at full width.
+    double textHeight(const QString& text, const PdfTextStyle& style, double indent = 0);
     /// A text of any length: one higher than a page goes to `text` paragraph by paragraph, and a paragraph
     /// higher than a page in groups of lines.
     void longText(const QString& text, const PdfTextStyle& style, double indent = 0);
@@ -64,6 +60,8 @@ public:
     void chart(const QList<std::pair<OMDay, double>>& points, const QString& unitLabel);
     /// The cursor doesn't move.
     void image(const QByteArray& data, const QRectF& rect);
+    /// Blocks of text that begin beside `rect` on this page are wrapped to its left.
+    void keepClear(const QRectF& rect) { m_clear = rect; }
     /// Ends the document and gives its bytes. Nothing may be written after it.
     QByteArray finish();
 
@@ -74,15 +72,17 @@ private:
         double width;
     };
 
+    double textWidth() const;
     void drawFooter();
     void tableHeader(const QList<Column>& columns);
     void tableRow(const QList<Column>& columns, const QStringList& cells, bool striped);
-    QList<Row> wholeRows(const QList<Column>& columns, const QList<QStringList>& rows);
+    QList<QStringList> pieces(const QList<Column>& columns, QStringList cells);
     void chartGrid(const QRectF& plot, double axisBottom, double span);
 
     QString m_footer;
     std::unique_ptr<PdfCanvas> m_canvas;
     int m_page = 0;
+    QRectF m_clear;
 };
 
 } // namespace ormiva

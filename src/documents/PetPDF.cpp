@@ -34,7 +34,7 @@ void profile(PDFFlow& flow, const Pet& pet, const QList<WeightEntry>& weights) {
 }
 
 void weightSection(PDFFlow& flow, const QList<WeightEntry>& weights) {
-    flow.heading(QStringLiteral("Weight (grams)"));
+    PetPages::section(flow, QStringLiteral("Weight (grams)"));
     flow.chart(PetPages::chartPoints(weights), QStringLiteral("grams"));
     QList<QStringList> rows;
     for (qsizetype i = weights.size() - 1; i >= 0; --i) {
@@ -48,7 +48,7 @@ void weightSection(PDFFlow& flow, const QList<WeightEntry>& weights) {
 }
 
 void medicationSection(PDFFlow& flow, const QList<Medication>& medications) {
-    flow.heading(QStringLiteral("Medications (exactly as prescribed by the vet)"));
+    PetPages::section(flow, QStringLiteral("Medications (exactly as prescribed by the vet)"), 50);
     flow.text(OMInfo::doseNote, PDFFlow::smallA);
     QList<QStringList> rows;
     for (const Medication& medication : medications) {
@@ -63,7 +63,7 @@ void medicationSection(PDFFlow& flow, const QList<Medication>& medications) {
 }
 
 void visitSection(PDFFlow& flow, const QList<VetVisit>& visits) {
-    flow.heading(QStringLiteral("Vet visits"));
+    PetPages::section(flow, QStringLiteral("Vet visits"));
     QList<QStringList> rows;
     for (const VetVisit& visit : visits) {
         const QString followUp =
@@ -77,7 +77,7 @@ void visitSection(PDFFlow& flow, const QList<VetVisit>& visits) {
 }
 
 void feedingSection(PDFFlow& flow, const QList<FeedingEntry>& feedings) {
-    flow.heading(QStringLiteral("Feeding log"));
+    PetPages::section(flow, QStringLiteral("Feeding log"));
     QList<QStringList> rows;
     for (const FeedingEntry& meal : feedings)
         rows.append({meal.day.iso(), meal.food, meal.amount,
@@ -94,8 +94,8 @@ void shedSection(PDFFlow& flow, const std::optional<Species>& species, const QLi
                                     species->group == Invertebrate);
     if (!always && sheds.isEmpty())
         return;
-    flow.heading(species && species->group == Invertebrate ? QStringLiteral("Molt log")
-                                                           : QStringLiteral("Shed log"));
+    PetPages::section(flow, species && species->group == Invertebrate ? QStringLiteral("Molt log")
+                                                                      : QStringLiteral("Shed log"));
     QList<QStringList> rows;
     for (const ShedEntry& shed : sheds)
         rows.append({shed.day.iso(), PetPages::shedResult(shed), shed.note});

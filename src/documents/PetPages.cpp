@@ -2,13 +2,23 @@
 
 #include "Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ormiva::PetPages {
 
 void photo(PDFFlow& flow, const Pet& pet) {
-    if (pet.photo)
-        flow.image(*pet.photo, {450, flow.y, 120, 110});
+    if (!pet.photo)
+        return;
+    const QRectF place(450, flow.y, 120, 110);
+    flow.image(*pet.photo, place);
+    flow.keepClear(place);
+}
+
+void section(PDFFlow& flow, const QString& title, double follows) {
+    constexpr double headingHeight = 33;
+    flow.need(std::min(headingHeight + follows, PDFFlow::bottom - PDFFlow::margin));
+    flow.heading(title);
 }
 
 QString speciesName(const Pet& pet, const std::optional<Species>& species) {

@@ -12,6 +12,9 @@ constexpr double photoRoom = 118;
 /// Puts the pet's photo, if there is one, at the right of the cursor's height.
 void photo(PDFFlow& flow, const Pet& pet);
 
+/// A section's heading that stays with the first `follows` points of what comes: a table's band and a row.
+void section(PDFFlow& flow, const QString& title, double follows = 36);
+
 /// The common name, or the id of a species that the library doesn't hold.
 QString speciesName(const Pet& pet, const std::optional<Species>& species);
 /// "{name}  ·  {scientific name}".

@@ -156,5 +156,20 @@ TEST(PDFFlowImage, LeavesTheCursor) {
     EXPECT_EQ(made.flow.y, 42);
 }
 
+TEST(PDFFlow, WrapsTextToTheLeftOfWhatIsKeptClear) {
+    FakeFlow made;
+    made.flow.keepClear({450, 42, 120, 110});
+    made.drawn();
+    made.flow.text(u"h=100 beside"_qs, PDFFlow::bodyA);
+    made.flow.text(u"beside"_qs, PDFFlow::bodyA, 8);
+    made.flow.text(u"below"_qs, PDFFlow::bodyA);
+    EXPECT_EQ(made.drawn(), QStringList({u"text \"h=100 beside\" 10.00 at 42.00 42.00 400.00 102.00"_qs,
+                                         u"text \"beside\" 10.00 at 50.00 145.00 392.00 14.00"_qs,
+                                         u"text \"below\" 10.00 at 42.00 160.00 528.00 14.00"_qs}));
+    made.flow.newPage();
+    made.flow.text(u"next"_qs, PDFFlow::bodyA);
+    EXPECT_TRUE(made.drawn().contains(u"text \"next\" 10.00 at 42.00 42.00 528.00 14.00"_qs));
+}
+
 } // namespace
 } // namespace ormiva

@@ -35,6 +35,8 @@ protected:
         const auto id = program.window(desktop);
         ASSERT_TRUE(id.has_value()) << program.errors().toStdString();
         m_window = *id;
+        // The keys that the window manager takes go to the active window.
+        desktop.xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), m_window});
         settle();
     }
     /// At a point of the window's own.
