@@ -1,5 +1,7 @@
 #include "ArtPainter.h"
 
+#include "Animals.h"
+#include "Primitives.h"
 #include "VLKitTheme.h"
 
 #include <QLinearGradient>
@@ -19,25 +21,94 @@ QRadialGradient radial(QPointF centre, double startRadius, double endRadius, con
     return gradient;
 }
 
-QColor at(QColor color, double opacity) {
-    color.setAlphaF(static_cast<float>(opacity));
-    return color;
+using Paint = void (*)(QPainter&, const QColor&, const QColor&);
+
+struct Drawing {
+    QString key;
+    Paint paint;
+};
+
+const QList<Drawing>& drawings() {
+    static const QList<Drawing> all = {
+        {QStringLiteral("dragon"), [](QPainter& c, const QColor& p,
+                                      const QColor& s) { lizard(c, p, s, {.beard = true, .spikes = true}); }},
+        {QStringLiteral("gecko"), [](QPainter& c, const QColor& p,
+                                     const QColor& s) { lizard(c, p, s, {.spots = true, .fatTail = true}); }},
+        {QStringLiteral("gecko-crested"),
+         [](QPainter& c, const QColor& p, const QColor& s) { lizard(c, p, s, {.crest = true}); }},
+        {QStringLiteral("skink"),
+         [](QPainter& c, const QColor& p, const QColor& s) {
+             lizard(c, p, s, {.bands = true, .isShort = true});
+             blueTongue(c);
+         }},
+        {QStringLiteral("uromastyx"),
+         [](QPainter& c, const QColor& p, const QColor& s) {
+             lizard(c, p, s, {.spots = true, .fatTail = true, .spikes = true, .isShort = true});
+         }},
+        {QStringLiteral("tegu"),
+         [](QPainter& c, const QColor& p, const QColor& s) { lizard(c, p, s, {.bands = true}); }},
+        {QStringLiteral("iguana"),
+         [](QPainter& c, const QColor& p, const QColor& s) {
+             lizard(c, p, s, {.bands = true, .crest = true, .dewlap = true});
+         }},
+        {QStringLiteral("snake-python"),
+         [](QPainter& c, const QColor& p, const QColor& s) { snake(c, p, s, SnakePattern::blotch); }},
+        {QStringLiteral("snake-colubrid"),
+         [](QPainter& c, const QColor& p, const QColor& s) { snake(c, p, s, SnakePattern::saddle); }},
+        {QStringLiteral("snake-banded"),
+         [](QPainter& c, const QColor& p, const QColor& s) { snake(c, p, s, SnakePattern::band); }},
+        {QStringLiteral("chameleon-veiled"),
+         [](QPainter& c, const QColor& p, const QColor& s) { chameleon(c, p, s, true); }},
+        {QStringLiteral("chameleon-panther"),
+         [](QPainter& c, const QColor& p, const QColor& s) { chameleon(c, p, s, false); }},
+        {QStringLiteral("tortoise-small"),
+         [](QPainter& c, const QColor& p, const QColor& s) { tortoise(c, p, s, false); }},
+        {QStringLiteral("tortoise-large"),
+         [](QPainter& c, const QColor& p, const QColor& s) { tortoise(c, p, s, true); }},
+        {QStringLiteral("turtle"), [](QPainter& c, const QColor& p, const QColor& s) { turtle(c, p, s); }},
+        {QStringLiteral("axolotl"), [](QPainter& c, const QColor& p, const QColor& s) { axolotl(c, p, s); }},
+        {QStringLiteral("frog-pacman"),
+         [](QPainter& c, const QColor& p, const QColor& s) { frog(c, p, s, true); }},
+        {QStringLiteral("frog-tree"),
+         [](QPainter& c, const QColor& p, const QColor& s) { frog(c, p, s, false); }},
+        {QStringLiteral("budgie"),
+         [](QPainter& c, const QColor& p, const QColor& s) { bird(c, p, s, BirdKind::budgie); }},
+        {QStringLiteral("cockatiel"),
+         [](QPainter& c, const QColor& p, const QColor& s) { bird(c, p, s, BirdKind::cockatiel); }},
+        {QStringLiteral("grey"),
+         [](QPainter& c, const QColor& p, const QColor& s) { bird(c, p, s, BirdKind::grey); }},
+        {QStringLiteral("tarantula"),
+         [](QPainter& c, const QColor& p, const QColor& s) { tarantula(c, p, s); }},
+        {QStringLiteral("crab"), [](QPainter& c, const QColor& p, const QColor& s) { crab(c, p, s); }},
+        {QStringLiteral("ferret"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::ferret); }},
+        {QStringLiteral("fox"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::fox); }},
+        {QStringLiteral("skunk"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::skunk); }},
+        {QStringLiteral("glider"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::glider); }},
+        {QStringLiteral("hedgehog"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::hedgehog); }},
+        {QStringLiteral("chinchilla"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::chinchilla); }},
+        {QStringLiteral("degu"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::degu); }},
+        {QStringLiteral("rabbit"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::rabbit); }},
+        {QStringLiteral("guineapig"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::guineapig); }},
+        {QStringLiteral("rat"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::rat); }},
+        {QStringLiteral("hamster"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::hamster); }},
+        {QStringLiteral("gerbil"),
+         [](QPainter& c, const QColor& p, const QColor& s) { mammal(c, p, s, MammalKind::gerbil); }},
+    };
+    return all;
 }
 
 } // namespace
-
-QPainterPath ell(double cx, double cy, double w, double h) {
-    QPainterPath path;
-    path.addEllipse(QPointF(cx, cy), w / 2, h / 2);
-    return path;
-}
-
-void eye(QPainter& context, double x, double y, double r, const std::optional<QColor>& ring) {
-    if (ring)
-        context.fillPath(ell(x, y, 2.8 * r, 2.8 * r), *ring);
-    context.fillPath(ell(x, y, 2 * r, 2 * r), QColor::fromRgbF(0.06F, 0.06F, 0.06F));
-    context.fillPath(ell(x - 0.35 * r, y - 0.4 * r, 0.7 * r, 0.7 * r), at(Qt::white, 0.9));
-}
 
 void badge(QPainter& context, const VLKTheme& theme) {
     const QPainterPath plate = ell(50, 50, 98, 98);
@@ -61,7 +132,20 @@ void badge(QPainter& context, const VLKTheme& theme) {
     context.strokePath(ell(50, 50, 97, 97), QPen(rim, 1.6));
 }
 
-void draw(const QString&, QPainter& context, const QColor& primary, const QColor&) {
+const QStringList& known() {
+    static const QStringList keys = [] {
+        QStringList all;
+        for (const Drawing& drawing : drawings())
+            all.append(drawing.key);
+        return all;
+    }();
+    return keys;
+}
+
+void draw(const QString& key, QPainter& context, const QColor& primary, const QColor& secondary) {
+    for (const Drawing& drawing : drawings())
+        if (drawing.key == key)
+            return drawing.paint(context, primary, secondary);
     context.fillPath(ell(50, 52, 40, 40), primary);
     eye(context, 58, 48);
 }
