@@ -5,21 +5,10 @@
 #include "VLKitTheme.h"
 
 #include <QLinearGradient>
-#include <QRadialGradient>
 
 namespace ormiva::ArtPainter {
 
 namespace {
-
-/// A gradient between two circles about one centre, as a span of a QRadialGradient.
-QRadialGradient radial(QPointF centre, double startRadius, double endRadius, const QColor& from,
-                       const QColor& to) {
-    QRadialGradient gradient(centre, endRadius);
-    gradient.setColorAt(0, from);
-    gradient.setColorAt(startRadius / endRadius, from);
-    gradient.setColorAt(1, to);
-    return gradient;
-}
 
 using Paint = void (*)(QPainter&, const QColor&, const QColor&);
 

@@ -36,6 +36,15 @@ QPainterPath rot(const QPainterPath& path, double angle, double cx, double cy) {
     return QTransform().translate(cx, cy).rotateRadians(angle).translate(-cx, -cy).map(path);
 }
 
+QRadialGradient radial(QPointF centre, double startRadius, double endRadius, const QColor& from,
+                       const QColor& to) {
+    QRadialGradient gradient(centre, endRadius);
+    gradient.setColorAt(0, from);
+    gradient.setColorAt(startRadius / endRadius, from);
+    gradient.setColorAt(1, to);
+    return gradient;
+}
+
 void shade(QPainter& context, const QPainterPath& path, const QColor& color, double top, double bottom) {
     context.fillPath(path, color);
     const QRectF bounds = path.boundingRect();

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRadialGradient>
 
 #include <optional>
 
@@ -22,6 +23,10 @@ QPainterPath ell(double cx, double cy, double w, double h);
 QPainterPath polygon(const QList<QPointF>& points);
 /// The path turned by `angle` radians, clockwise on the screen, about (cx, cy).
 QPainterPath rot(const QPainterPath& path, double angle, double cx, double cy);
+
+/// A gradient between two circles about one centre; it pads beyond both.
+QRadialGradient radial(QPointF centre, double startRadius, double endRadius, const QColor& from,
+                       const QColor& to);
 
 /// Fills the path so that it looks round: lighter at the top of its bounds, darker at their bottom.
 void shade(QPainter& context, const QPainterPath& path, const QColor& color, double top = 0.18,

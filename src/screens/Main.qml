@@ -1,5 +1,6 @@
 import QtQml
 import QtQuick
+import Ormiva.Art
 import Ormiva.Kit
 import Ormiva.Screens
 
@@ -19,7 +20,7 @@ Window {
     visible: true
     onClosing: Qt.quit()
 
-    VLWindowBackground {
+    HabitatBackground {
         anchors.fill: parent
     }
 
