@@ -81,6 +81,7 @@ int main(int argc, char** argv) {
     addStorePairs();
     addTrackingPairs();
     addDocumentPairs();
+    addArtPairs();
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
 

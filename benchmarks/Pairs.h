@@ -14,5 +14,6 @@ void addLibraryPairs();
 void addStorePairs();
 void addTrackingPairs();
 void addDocumentPairs();
+void addArtPairs();
 
 } // namespace ormiva::bench

@@ -118,7 +118,10 @@ void badge(QPainter& context, const VLKTheme& theme) {
     QLinearGradient rim(50, 0, 50, 100);
     rim.setColorAt(0, at(Qt::white, 0.45));
     rim.setColorAt(1, at(Qt::black, 0.5));
-    context.strokePath(ell(50, 50, 97, 97), QPen(rim, 1.6));
+    // The stroke as a shape: Qt's SVG files have no pens with a gradient.
+    QPainterPathStroker pen;
+    pen.setWidth(1.6);
+    context.fillPath(pen.createStroke(ell(50, 50, 97, 97)), rim);
 }
 
 const QStringList& known() {

@@ -17,5 +17,6 @@ void reminderTests(OMTestRun& run, const QString& scratch);
 void exportTests(OMTestRun& run, const QString& scratch);
 void careSheetTests(OMTestRun& run, const QString& scratch);
 void backupTests(OMTestRun& run, const QString& scratch);
+void artTests(OMTestRun& run);
 
 } // namespace ormiva::OMSelfTest

@@ -315,6 +315,29 @@ TEST(Animals, OfTheMammalSkeletonDifferInTheirParts) {
     });
 }
 
+TEST(Animals, TurnTheirPartsTheRightWay) {
+    expectSeen({
+        {"snake-python", 86.5, 30, 'p', "the nose goes up"},
+        {"snake-python", 86.5, 36, '.', "and not down"},
+        {"budgie", 43.5, 73.5, 'p', "the body leans back"},
+        {"budgie", 58.5, 72.5, '.', "and not forward"},
+        {"budgie", 39, 70, 's', "the wing leans with it"},
+        {"crab", 65.5, 63, 'p', "the body is lower behind"},
+        {"crab", 65.5, 57, '.', "than in front"},
+    });
+}
+
+TEST(Animals, AreRoundAndClosedWhereTheyShouldBe) {
+    expectSeen({
+        {"tegu", 38.15, 49.15, '.', "the rounded corner of a band"},
+        {"tegu", 39.5, 49.3, 's', "its end"},
+        {"tortoise-small", 30.6, 72.4, '.', "the rounded corner of a leg"},
+        {"tortoise-small", 32, 72, 's', "its end"},
+        {"tortoise-small", 54, 41.2, 's', "the last edge of a scute"},
+        {"rat", 76, 54, 'p', "head and snout are one shape"},
+    });
+}
+
 TEST(Animals, AreKnownToTheLibrary) {
     qputenv("OM_DATA_DIR", ORMIVA_ROOT "/data");
     std::set<QString> designs;

@@ -33,8 +33,8 @@ protected:
 
 TEST_F(SelfTestFaults, AreAbsentUnlessABuildFillsTheSet) {
     qputenv("OM_SELFTEST_MUTATE", "dose");
-    for (const auto section :
-         {OMSelfTest::contentTests, OMSelfTest::doseTests, OMSelfTest::symptomTests, OMSelfTest::searchTests})
+    for (const auto section : {OMSelfTest::contentTests, OMSelfTest::doseTests, OMSelfTest::symptomTests,
+                               OMSelfTest::searchTests, OMSelfTest::artTests})
         EXPECT_EQ(failures(section), QStringList());
     qunsetenv("OM_SELFTEST_MUTATE");
 }

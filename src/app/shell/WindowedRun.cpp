@@ -1,5 +1,6 @@
 #include "WindowedRun.h"
 
+#include "AppIcon.h"
 #include "AppModel.h"
 #include "DamageReport.h"
 #include "OMDelegate.h"
@@ -76,6 +77,7 @@ void chooseSceneGraph() {
 void describeApplication() {
     QGuiApplication::setApplicationDisplayName(OMInfo::appName);
     QGuiApplication::setDesktopFileName(OMInfo::identity);
+    QGuiApplication::setWindowIcon(AppIcon::icon());
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
