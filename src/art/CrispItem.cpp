@@ -30,8 +30,14 @@ void CrispItem::geometryChange(const QRectF& now, const QRectF& before) {
         fitTexture();
 }
 
+void CrispItem::setUnzoomed() {
+    m_zoomed = false;
+    fitTexture();
+}
+
 void CrispItem::fitTexture() {
-    const double ratio = VLZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
+    const double ratio =
+        (m_zoomed ? VLZoom::value() : 1) * (window() ? window()->effectiveDevicePixelRatio() : 1);
     const QSize pixels(static_cast<int>(std::ceil(width() * ratio)),
                        static_cast<int>(std::ceil(height() * ratio)));
     if (pixels == textureSize())

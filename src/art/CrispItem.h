@@ -15,11 +15,15 @@ public:
     explicit CrispItem(QQuickItem* parent = nullptr);
 
 protected:
+    /// Says that the item lies outside what the interface zoom scales.
+    void setUnzoomed();
     void itemChange(ItemChange change, const ItemChangeData& data) override;
     void geometryChange(const QRectF& now, const QRectF& before) override;
 
 private:
     void fitTexture();
+
+    bool m_zoomed = true;
 };
 
 } // namespace ormiva

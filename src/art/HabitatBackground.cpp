@@ -11,6 +11,7 @@ namespace ormiva {
 HabitatBackground::HabitatBackground(QQuickItem* parent)
     : CrispItem(parent) {
     setOpaquePainting(true);
+    setUnzoomed();
     connect(&OMPrefs::notifier(), &PrefsNotifier::changed, this, [this](const QString& key) {
         if (key == VLKThemes::key)
             update();

@@ -76,6 +76,15 @@ Item {
             verify(!before.equals(grabImage(habitat)))
         }
 
+        function test_onlyTheHabitatKeepsItsPixelsUnderTheZoom() {
+            compare(icon.textureSize, Qt.size(100, 100))
+            compare(habitat.textureSize, Qt.size(400, 200))
+            Bench.storeZoom(2)
+            compare(icon.textureSize, Qt.size(200, 200))
+            compare(avatar.textureSize, Qt.size(200, 200))
+            compare(habitat.textureSize, Qt.size(400, 200))
+        }
+
         function test_nothingHereSpeaksToAScreenReader() {
             for (const item of [habitat, icon, avatar])
                 compare(Bench.accessibleName(item), "")

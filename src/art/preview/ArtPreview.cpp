@@ -69,7 +69,7 @@ bool writePictures(const Request& request, const QStringList& names) {
 bool writeSheet(const Request& request, const QStringList& names) {
     constexpr int columns = 6;
     constexpr int label = 18;
-    const int width = std::max(request.size, 110);
+    const int width = std::max(request.size, 130); // room for the longest key
     const int height = request.size + label;
     QImage image =
         emptyImage(columns * width, static_cast<int>((names.size() + columns - 1) / columns) * height);
@@ -79,8 +79,9 @@ bool writeSheet(const Request& request, const QStringList& names) {
     for (int i = 0; i < names.size(); ++i) {
         painter.save();
         painter.translate(i % columns * width, i / columns * height);
-        ormiva::SpeciesIcon::paintIcon(painter, request.size, names.at(i), request.palette, request.badge);
         painter.drawText(QRect(0, request.size, width, label), Qt::AlignCenter, names.at(i));
+        painter.translate((width - request.size) / 2, 0);
+        ormiva::SpeciesIcon::paintIcon(painter, request.size, names.at(i), request.palette, request.badge);
         painter.restore();
     }
     painter.end();
