@@ -2,11 +2,16 @@ import QtQuick
 import QtQuick.Templates as T
 import Ormiva.Kit
 
-// A menu. It scales like the content when it belongs there, and keeps itself inside the window.
+// A menu. It scales like the content when it belongs there, and keeps itself inside the window. While it is
+// open a letter goes to the next item that begins with it, and triggers the only one.
 T.Menu {
     id: menu
 
     property bool zoomed: true
+    // The menu bar that it belongs to; submenus have none.
+    property var bar: null
+    // The letter that opens it from the menu bar, with Alt.
+    property string mnemonic: title.charAt(0).toLowerCase()
 
     readonly property real room: (T.Overlay.overlay ? T.Overlay.overlay.height : 600) / scale - 2 * margins
 
@@ -15,6 +20,7 @@ T.Menu {
     padding: 5
     margins: 6
     overlap: 1
+    cascade: true
     scale: zoomed ? VLUI.zoom : 1
     transformOrigin: T.Popup.TopLeft
 
@@ -25,7 +31,52 @@ T.Menu {
         return width
     }
 
+    onClosed: if (bar) Qt.callLater(bar.leaveWhenClosed)
+
+    function beginning(letter: string): var {
+        const rows = []
+        for (let i = 0; i < count; ++i) {
+            const item = itemAt(i)
+            if (item && item.enabled && item.text && item.text.toLowerCase().startsWith(letter))
+                rows.push(i)
+        }
+        return rows
+    }
+
+    function typed(text: string): bool {
+        const rows = text.trim() === "" ? [] : beginning(text.toLowerCase())
+        if (rows.length === 0)
+            return false
+        const next = rows.find(row => row > currentIndex)
+        currentIndex = next === undefined ? rows[0] : next
+        if (rows.length === 1)
+            itemAt(currentIndex).activate()
+        return true
+    }
+
     contentItem: ListView {
+        Keys.onPressed: event => {
+            const item = menu.itemAt(menu.currentIndex)
+            switch (event.key) {
+            case Qt.Key_Left:
+            case Qt.Key_Right:
+                // Within submenus, and into them, the menus go by themselves.
+                if (!menu.bar || (event.key === Qt.Key_Right && item && item.subMenu))
+                    return
+                menu.bar.openAt(menu.bar.indexOf(menu) + (event.key === Qt.Key_Right ? 1 : -1))
+                break
+            case Qt.Key_Home:
+                menu.currentIndex = 0
+                break
+            case Qt.Key_End:
+                menu.currentIndex = menu.count - 1
+                break
+            default:
+                if (event.modifiers !== Qt.NoModifier || !menu.typed(event.text))
+                    return
+            }
+            event.accepted = true
+        }
         implicitHeight: contentHeight
         model: menu.contentModel
         currentIndex: menu.currentIndex

@@ -6,12 +6,44 @@ import Ormiva.Kit
 T.MenuBarItem {
     id: item
 
+    readonly property var bar: menuBar
+
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 26
     y: 2
     horizontalPadding: 10
     hoverEnabled: true
+    Accessible.role: Accessible.MenuItem
     Accessible.name: text
+
+    Binding {
+        target: item.menu
+        property: "bar"
+        value: item.bar
+    }
+
+    Keys.onPressed: event => {
+        const index = bar.indexOf(menu)
+        switch (event.key) {
+        case Qt.Key_Left:
+        case Qt.Key_Right:
+            const step = event.key === Qt.Key_Right ? 1 : -1
+            bar.itemAt((index + step + bar.count) % bar.count).forceActiveFocus(Qt.TabFocusReason)
+            break
+        case Qt.Key_Down:
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            bar.openAt(index)
+            break
+        case Qt.Key_Escape:
+            bar.leave()
+            break
+        default:
+            return
+        }
+        event.accepted = true
+    }
 
     contentItem: OMText {
         text: item.text

@@ -9,6 +9,13 @@ T.MenuItem {
     // Shown only; an item without an action needs a Shortcut beside it.
     property string keys: action && action.shortcut ? action.shortcut : ""
 
+    // Does what a click does.
+    function activate() {
+        if (action)
+            action.trigger()
+        triggered()
+    }
+
     implicitWidth: leftPadding + implicitContentWidth + rightPadding
     implicitHeight: 27
     leftPadding: 28
@@ -31,6 +38,15 @@ T.MenuItem {
         name: "checkmark"
         size: 14
         color: item.highlighted ? "white" : VLUI.text
+    }
+
+    arrow: Symbol {
+        x: item.width - width - 8
+        y: (item.height - height) / 2
+        visible: item.subMenu
+        name: "chevron.right"
+        size: 15
+        color: item.highlighted ? "white" : VLUI.dim
     }
 
     background: Plate {

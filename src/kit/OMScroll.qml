@@ -10,6 +10,7 @@ Item {
     property alias contentY: flick.contentY
     property alias motor: motor
     property real padding: 24
+    property alias spacing: column.spacing
     property real maximumWidth: 1280
     // What a screen reader calls the area.
     property string name

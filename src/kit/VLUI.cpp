@@ -54,6 +54,26 @@ void VLUI::chooseTheme(const QString& id) {
     AppModel::shared().act([&id] { VLKThemes::setCurrentID(id); });
 }
 
+QList<int> VLUI::zoomLevels() const {
+    return VLZoom::levels();
+}
+
+QString VLUI::zoomLevelTitle(int percent) const {
+    return VLZoom::levelTitle(percent);
+}
+
+void VLUI::zoomIn() {
+    AppModel::shared().act([] { VLZoom::zoomIn(); });
+}
+
+void VLUI::zoomOut() {
+    AppModel::shared().act([] { VLZoom::zoomOut(); });
+}
+
+void VLUI::zoomTo(int percent) {
+    AppModel::shared().act([percent] { VLZoom::setValue(percent / 100.0); });
+}
+
 QColor VLUI::at(QColor base, double opacity) const {
     base.setAlphaF(static_cast<float>(opacity));
     return base;

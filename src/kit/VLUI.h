@@ -48,6 +48,7 @@ class VLUI final : public QObject {
     Q_PROPERTY(QList<ormiva::ThemeChoice> themes READ themes CONSTANT FINAL)
     Q_PROPERTY(QString currentThemeID READ currentThemeID NOTIFY themeChanged FINAL)
     Q_PROPERTY(double zoom READ zoom NOTIFY zoomChanged FINAL)
+    Q_PROPERTY(QList<int> zoomLevels READ zoomLevels CONSTANT FINAL)
     Q_PROPERTY(double pointsPerPixel READ pointsPerPixel CONSTANT FINAL)
     Q_PROPERTY(QString fontFamily READ fontFamily CONSTANT FINAL)
     Q_PROPERTY(QString iconFamily READ iconFamily CONSTANT FINAL)
@@ -76,6 +77,9 @@ public:
     /// The id of the theme on show, which may not be the stored one when that is unknown.
     QString currentThemeID() const { return m_themeID; }
     double zoom() const { return m_zoom; }
+    /// In whole percentages.
+    QList<int> zoomLevels() const;
+    Q_INVOKABLE QString zoomLevelTitle(int percent) const;
     /// What a type size in pixels is multiplied by to be a point size. Only point sizes may have fractions.
     double pointsPerPixel() const;
     /// The application's font, for the items that the platform would give another.
@@ -85,6 +89,10 @@ public:
 
     /// Stores the theme of that id; a failure becomes the waiting message.
     Q_INVOKABLE void chooseTheme(const QString& id);
+    /// Store another zoom; a failure becomes the waiting message.
+    Q_INVOKABLE void zoomIn();
+    Q_INVOKABLE void zoomOut();
+    Q_INVOKABLE void zoomTo(int percent);
     /// `base` at an opacity from 0 to 1.
     Q_INVOKABLE QColor at(QColor base, double opacity) const;
     /// The mixture of two opaque colours, `part` (0 to 1) of it the second.

@@ -48,9 +48,52 @@ Window {
         }
     }
 
+    Shortcut {
+        sequence: "Ctrl+="
+        onActivated: VLUI.zoomIn()
+    }
+    Shortcut {
+        sequence: "F1"
+        onActivated: VLKHelp.show()
+    }
+
     MainMenuBar {
         id: menus
 
         width: parent.width
+    }
+
+    // The other windows, each made when it is first asked for; it then answers by itself.
+    Connections {
+        target: VLKHelp
+
+        function onRequested(topic: string) {
+            if (help.active)
+                return
+            help.active = true
+            VLKHelp.show(topic)
+        }
+    }
+    Connections {
+        target: VLKAbout
+
+        function onRequested() {
+            if (about.active)
+                return
+            about.active = true
+            VLKAbout.show()
+        }
+    }
+    Loader {
+        id: help
+
+        active: false
+        sourceComponent: HelpWindow {}
+    }
+    Loader {
+        id: about
+
+        active: false
+        sourceComponent: AboutWindow {}
     }
 }

@@ -14,7 +14,7 @@ class InstalledThemes : public ::testing::Test {
 protected:
     InstalledThemes() {
         VLKThemes::setDefaultID(OMThemes::canopyID);
-        VLKKit::install(QStringLiteral("VLK Ormiva"), OMThemes::extras());
+        VLKKit::install(QStringLiteral("VLK Ormiva"), {}, OMThemes::extras());
     }
     ~InstalledThemes() override { VLKThemes::setDefaultID(QStringLiteral("cobalt-gunmetal")); }
 

@@ -108,7 +108,7 @@ TEST_F(Window, AThemeIsChosenFromTheMenuAndKept) {
         Program program(m_home.path(), desktop.display());
         open(program, desktop);
         const QImage before = picture(desktop, QStringLiteral("theme-before"));
-        clickInWindow(desktop, 122, 15); // "Theme" in the menu bar
+        clickInWindow(desktop, 268, 15); // "Theme" in the menu bar
         settle();
         for (int i = 0; i < 3; ++i) // The third of the menu is Rose Gold.
             desktop.key(QStringLiteral("Down"));

@@ -8,8 +8,25 @@
 
 namespace ormiva {
 
+namespace {
+
+std::unique_ptr<FilePanels>& sharedPanels() {
+    static std::unique_ptr<FilePanels> panels;
+    return panels;
+}
+
+} // namespace
+
 FileType FileType::backup() {
     return {QStringLiteral("VLK Ormiva backup"), BackupFile::suffix, BackupFile::typeIdentifier};
+}
+
+FilePanels* FilePanels::shared() {
+    return sharedPanels().get();
+}
+
+void FilePanels::setShared(std::unique_ptr<FilePanels> panels) {
+    sharedPanels() = std::move(panels);
 }
 
 void FilePanels::exportData(const QByteArray& data, const QString& name, const FileType& type,

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace ormiva {
@@ -25,6 +26,10 @@ struct FileType {
 /// Where the user chooses files. The desktop's dialogues stand behind it, and in tests a script.
 class FilePanels {
 public:
+    /// The panels of this run; null when there are none.
+    static FilePanels* shared();
+    static void setShared(std::unique_ptr<FilePanels> panels);
+
     FilePanels() = default;
     virtual ~FilePanels() = default;
     FilePanels(const FilePanels&) = delete;

@@ -2,6 +2,7 @@
 
 #include "AppModel.h"
 #include "CareLibrary.h"
+#include "OMHelp.h"
 #include "OMInfo.h"
 #include "OMStore.h"
 #include "OMThemes.h"
@@ -33,8 +34,8 @@ std::unique_ptr<OMStore> openFallback() {
 
 void configure() {
     VLKThemes::setDefaultID(OMThemes::canopyID);
-    VLKKit::install(OMInfo::appName, OMThemes::extras());
     const CareLibrary& library = CareLibrary::shared();
+    VLKKit::install(OMInfo::appName, OMHelp::topics(library), OMThemes::extras());
     VLKAbout::extraLines = {
         QStringLiteral("Care sheets for %1 exotic species, a symptom checker and your pets' records.")
             .arg(library.species().size()),

@@ -3,6 +3,7 @@
 #include "AppIcon.h"
 #include "AppModel.h"
 #include "DamageReport.h"
+#include "DesktopFilePanels.h"
 #include "OMDelegate.h"
 #include "OMInfo.h"
 #include "OMSetup.h"
@@ -137,12 +138,15 @@ int runWindow(int& argc, char** argv, const QUrl& page) {
     OMSetup::openStore();
     OMSetup::reportLoadProblems();
 
+    FilePanels::setShared(std::make_unique<DesktopFilePanels>());
+
     SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
     OMDelegate delegate(OMStore::shared(), {});
     if (!delegate.applicationDidFinishLaunching(instance))
         return 0;
 
     const int status = showWindow(page, instance, std::move(messages));
+    FilePanels::setShared(nullptr);
     OMStore::setShared(nullptr);
     return status;
 }

@@ -11,8 +11,10 @@ QString& storedName() {
 }
 } // namespace
 
-void install(const QString& appName, const QList<VLKTheme>& extraThemes) {
+void install(const QString& appName, const QList<VLKHelpTopic>& helpTopics,
+             const QList<VLKTheme>& extraThemes) {
     storedName() = appName;
+    VLKHelp::topics = helpTopics;
     VLKThemes::registerThemes(extraThemes);
 }
 

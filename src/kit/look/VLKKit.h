@@ -1,5 +1,6 @@
 #pragma once
 
+#include "VLKHelp.h"
 #include "VLKTheme.h"
 
 #include <QList>
@@ -8,7 +9,8 @@
 /// What an application tells the shared interface kit once, at start-up.
 namespace ormiva::VLKKit {
 
-void install(const QString& appName, const QList<VLKTheme>& extraThemes);
+void install(const QString& appName, const QList<VLKHelpTopic>& helpTopics,
+             const QList<VLKTheme>& extraThemes);
 const QString& appName();
 
 } // namespace ormiva::VLKKit

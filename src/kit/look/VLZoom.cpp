@@ -30,4 +30,12 @@ void setValue(double factor) {
     OMPrefs::setValue(key, clamp(factor));
 }
 
+void zoomIn() {
+    setValue(value() + step);
+}
+
+void zoomOut() {
+    setValue(value() - step);
+}
+
 } // namespace ormiva::VLZoom

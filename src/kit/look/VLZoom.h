@@ -23,5 +23,8 @@ double clamp(double factor);
 double value();
 /// Stores the factor clamped. Throws FileError when the preferences can't be written.
 void setValue(double factor);
+/// A step up or down from the stored factor, as far as the limits allow. They throw like `setValue`.
+void zoomIn();
+void zoomOut();
 
 } // namespace ormiva::VLZoom

@@ -51,5 +51,96 @@ TEST_F(VLKHelpTopics, OfTheKitSayWhatTheyShould) {
                                            u"ventrel"_qs, u"credits"_qs}));
 }
 
+class VLKHelpSearch : public VLKHelpTopics {
+protected:
+    VLKHelpSearch() {
+        VLKHelp::topics = {
+            {u"one"_qs, u"First"_qs, u"A vet in café Noir\nstuck-shed"_qs, {u"bulb"_qs}},
+            {u"two"_qs, u"The Vét"_qs, u"Nothing"_qs, {u"lamp"_qs}},
+            {u"three"_qs, u"Third"_qs, u"bulb"_qs, {u"vet"_qs, u"two words"_qs}},
+            {u"look"_qs, u"L"_qs, {}, {}},
+            {u"about"_qs, u"A"_qs, {}, {}},
+        };
+    }
+
+    static QString found(const QString& query) {
+        QStringList ids;
+        for (const VLKHelpTopic& topic : VLKHelp::search(query))
+            ids.append(topic.id);
+        return ids.join(u' ');
+    }
+};
+
+TEST_F(VLKHelpSearch, WithoutWordsListsEverythingInOrder) {
+    EXPECT_EQ(found(u""_qs), u"one two three look about"_qs);
+    EXPECT_EQ(found(u" \t\n\u00a0"_qs), u"one two three look about"_qs);
+}
+
+TEST_F(VLKHelpSearch, PutsTopicsWithAWordInTheTitleFirst) {
+    EXPECT_EQ(found(u"vet"_qs), u"two one three"_qs);
+    EXPECT_EQ(found(u"third vet"_qs), u"three"_qs);
+    EXPECT_EQ(found(u"bulb"_qs), u"one three"_qs); // the order of the topics within a class
+}
+
+TEST_F(VLKHelpSearch, IgnoresCaseAndAccentsOnBothSides) {
+    for (const QString& query : {u"VET"_qs, u"vét"_qs, u"VÉT"_qs, u"ve\u0301t"_qs})
+        EXPECT_EQ(found(query), u"two one three"_qs) << query.toStdString();
+    EXPECT_EQ(found(u"cafe"_qs), u"one"_qs);
+    EXPECT_EQ(found(u"CAFÉ"_qs), u"one"_qs);
+}
+
+TEST_F(VLKHelpSearch, WantsEveryWordInAnyField) {
+    EXPECT_EQ(found(u"vet bulb"_qs), u"one three"_qs);
+    EXPECT_EQ(found(u"vet lamp"_qs), u"two"_qs);
+    EXPECT_EQ(found(u"vet missing"_qs), QString());
+    EXPECT_EQ(found(u"ulb"_qs), u"one three"_qs); // a piece of a word is enough
+}
+
+TEST_F(VLKHelpSearch, PartsWordsAtWhiteSpaceAlone) {
+    EXPECT_EQ(found(u"stuck-shed"_qs), u"one"_qs);
+    EXPECT_EQ(found(u"shed-stuck"_qs), QString());
+    EXPECT_EQ(found(u"stuck shed"_qs), u"one"_qs);
+}
+
+TEST_F(VLKHelpSearch, DecideTheTopicOnShow) {
+    const auto shown = [](const std::optional<QString>& selected, const std::optional<QString>& initial,
+                          const QString& query) {
+        const auto topic = VLKHelp::current(selected, initial, VLKHelp::search(query));
+        return topic ? topic->id : u"-"_qs;
+    };
+    EXPECT_EQ(shown({}, {}, u""_qs), u"one"_qs);
+    EXPECT_EQ(shown({}, {}, u"vet"_qs), u"two"_qs);
+    EXPECT_EQ(shown({}, {}, u"missing"_qs), u"-"_qs);
+    EXPECT_EQ(shown({}, u"three"_qs, u"vet"_qs), u"three"_qs);
+    EXPECT_EQ(shown({}, u"three"_qs, u"missing"_qs), u"three"_qs);
+    EXPECT_EQ(shown(u"one"_qs, u"three"_qs, u"vet"_qs), u"one"_qs);
+    EXPECT_EQ(shown(u"unknown"_qs, u"three"_qs, u"vet"_qs), u"two"_qs);
+    EXPECT_EQ(shown({}, u"unknown"_qs, u""_qs), u"one"_qs);
+    EXPECT_EQ(shown(u"unknown"_qs, {}, u"missing"_qs), u"-"_qs);
+}
+
+TEST(VLKHelpBlocks, KnowHeadingsBulletsAndParagraphs) {
+    using Kind = VLKHelp::Block::Kind;
+    const QList<VLKHelp::Block> expected = {
+        {Kind::paragraph, u"Welcome."_qs}, {Kind::heading, u"One"_qs},     {Kind::bullet, u"first"_qs},
+        {Kind::bullet, u"second"_qs},      {Kind::paragraph, u"•none"_qs}, {Kind::paragraph, u"##none"_qs},
+        {Kind::paragraph, u"# none"_qs},   {Kind::paragraph, u"##"_qs},
+    };
+    EXPECT_EQ(
+        VLKHelp::blocks(u"Welcome.\n\n## One\n• first\n \t \n  • second  \n•none\n##none\n# none\n## \n"_qs),
+        expected);
+    EXPECT_TRUE(VLKHelp::blocks({}).isEmpty());
+}
+
+TEST(VLKHelp, IsShownByTheOpener) {
+    QList<std::optional<QString>> shown;
+    VLKHelp::opener = [&](const std::optional<QString>& topic) { shown.append(topic); };
+    VLKHelp::show();
+    VLKHelp::show(u"keys"_qs);
+    VLKHelp::opener = nullptr;
+    VLKHelp::show();
+    EXPECT_EQ(shown, QList<std::optional<QString>>({std::nullopt, u"keys"_qs}));
+}
+
 } // namespace
 } // namespace ormiva

@@ -1,10 +1,15 @@
 #include "QmlBench.h"
 
 #include "AppModel.h"
+#include "CareLibrary.h"
+#include "FilePanels.h"
+#include "OMHelp.h"
 #include "OMInfo.h"
 #include "OMPrefs.h"
+#include "OMStore.h"
 #include "OMThemes.h"
 #include "Opener.h"
+#include "VLKAbout.h"
 #include "VLKKit.h"
 #include "VLKThemes.h"
 #include "VLZoom.h"
@@ -13,6 +18,7 @@
 #include <QClipboard>
 #include <QFont>
 #include <QGuiApplication>
+#include <QMetaEnum>
 #include <QQmlEngine>
 #include <QQuickTextDocument>
 #include <QTest>
@@ -44,6 +50,26 @@ void visit(QQuickItem& item, const std::function<void(QQuickItem&)>& seen) {
         visit(*child, seen);
 }
 
+/// Panels whose user thinks better of it.
+class CancelledPanels final : public FilePanels {
+public:
+    QStringList asked;
+
+    std::optional<QString> save(const QString& name, const QList<FileType>&) override {
+        asked.append(QStringLiteral("save ") + name);
+        return std::nullopt;
+    }
+    std::optional<QString> open(const QList<FileType>&, const QString& message) override {
+        asked.append(QStringLiteral("open ") + message);
+        return std::nullopt;
+    }
+    void reveal(const QString&) override {}
+};
+
+CancelledPanels& panels() {
+    return static_cast<CancelledPanels&>(*FilePanels::shared());
+}
+
 } // namespace
 
 QmlBench::QmlBench() {
@@ -53,6 +79,7 @@ QmlBench::QmlBench() {
 void QmlBench::reset() {
     m_opened.clear();
     m_deleted = 0;
+    panels().asked.clear();
     OMPrefs::remove(VLKThemes::key);
     OMPrefs::remove(VLZoom::key);
     AppModel& model = AppModel::shared();
@@ -92,6 +119,50 @@ void QmlBench::tickSymptom(const QString& id) {
 
 int QmlBench::tickedSymptoms() const {
     return static_cast<int>(AppModel::shared().checkerSymptoms().size());
+}
+
+QString QmlBench::sheet() const {
+    const auto& sheet = AppModel::shared().sheet();
+    return sheet ? identity(*sheet) : QString();
+}
+
+qint64 QmlBench::sheetPet() const {
+    const QVariant record = AppModel::shared().sheet() ? recordOf(*AppModel::shared().sheet()) : QVariant();
+    const QMetaObject* type = record.metaType().metaObject();
+    const int index = type ? type->indexOfProperty("petID") : -1;
+    return index < 0 ? 0 : type->property(index).readOnGadget(record.constData()).toLongLong();
+}
+
+qint64 QmlBench::savePet(const QString& name, const QString& speciesID) const {
+    Pet pet;
+    pet.name = name;
+    pet.speciesID = speciesID;
+    OMStore::shared()->save(pet);
+    return pet.id;
+}
+
+void QmlBench::removePets() const {
+    for (const Pet& pet : OMStore::shared()->pets())
+        OMStore::shared()->remove<Pet>(pet.id);
+}
+
+QStringList QmlBench::asked() const {
+    return panels().asked;
+}
+
+QWindow* QmlBench::windowTitled(const QString& title) const {
+    for (QWindow* window : QGuiApplication::topLevelWindows())
+        if (window->title() == title && window->isVisible())
+            return window;
+    return nullptr;
+}
+
+QString QmlBench::activeTitle() const {
+    return QGuiApplication::focusWindow() ? QGuiApplication::focusWindow()->title() : QString();
+}
+
+QString QmlBench::preference(const QString& key) const {
+    return OMPrefs::value(key).toString();
 }
 
 QList<QObject*> QmlBench::all(QQuickItem* root, const QString& type) const {
@@ -139,6 +210,21 @@ void QmlBench::press(QQuickWindow* window, const QString& keys) const {
     QTest::keyClick(window, pressed.key(), pressed.keyboardModifiers());
 }
 
+void QmlBench::pressInActive(const QString& keys) const {
+    press(qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow()), keys);
+}
+
+QString QmlBench::spoken() const {
+    const auto* window = qobject_cast<QQuickWindow*>(QGuiApplication::focusWindow());
+    QAccessibleInterface* face = window && window->activeFocusItem()
+                                     ? QAccessible::queryAccessibleInterface(window->activeFocusItem())
+                                     : nullptr;
+    if (!face)
+        return QStringLiteral("nothing");
+    const QString role = QString::fromUtf8(QMetaEnum::fromType<QAccessible::Role>().valueToKey(face->role()));
+    return role + QStringLiteral(": ") + face->text(QAccessible::Name);
+}
+
 QQuickItem* QmlBench::focusItem(QQuickItem* item) const {
     return item->window() ? item->window()->activeFocusItem() : nullptr;
 }
@@ -161,8 +247,11 @@ void QmlSetup::applicationAvailable() {
     QGuiApplication::setFont(font);
     QAccessible::setActive(true);
     OMPrefs::useFile(m_home.filePath(QStringLiteral("prefs.ini")));
+    OMStore::setShared(std::make_unique<OMStore>(m_home.filePath(QStringLiteral("pets.sqlite"))));
+    FilePanels::setShared(std::make_unique<CancelledPanels>());
     VLKThemes::setDefaultID(OMThemes::canopyID);
-    VLKKit::install(OMInfo::appName, OMThemes::extras());
+    VLKAbout::extraLines = {QStringLiteral("One."), QStringLiteral("Two."), QStringLiteral("Three.")};
+    VLKKit::install(OMInfo::appName, OMHelp::topics(CareLibrary::shared()), OMThemes::extras());
 }
 
 void QmlSetup::qmlEngineAvailable(QQmlEngine* engine) {

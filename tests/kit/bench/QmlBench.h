@@ -34,6 +34,20 @@ public:
     Q_INVOKABLE QString editedSpecies() const;
     Q_INVOKABLE void tickSymptom(const QString& id);
     Q_INVOKABLE int tickedSymptoms() const;
+    /// Which editor is open: the letter of its record and the record's id, as in "w0".
+    Q_INVOKABLE QString sheet() const;
+    /// The pet of the record that the editor is open on, 0 for none.
+    Q_INVOKABLE qint64 sheetPet() const;
+    Q_INVOKABLE qint64 savePet(const QString& name, const QString& speciesID) const;
+    Q_INVOKABLE void removePets() const;
+    /// What the panels for files were asked since `reset`; they are cancelled each time.
+    Q_INVOKABLE QStringList asked() const;
+
+    /// The window of the program with that title, once it is there; null before.
+    Q_INVOKABLE QWindow* windowTitled(const QString& title) const;
+    /// The title of the window that has the keyboard.
+    Q_INVOKABLE QString activeTitle() const;
+    Q_INVOKABLE QString preference(const QString& key) const;
 
     /// The visible descendants of a type, told by the name of its QML file or C++ class, in the order of the
     /// tree.
@@ -48,6 +62,10 @@ public:
     Q_INVOKABLE QString clipboard() const;
     /// Presses keys, as in "Ctrl+2", in a window.
     Q_INVOKABLE void press(QQuickWindow* window, const QString& keys) const;
+    /// Presses keys in the window that is active.
+    Q_INVOKABLE void pressInActive(const QString& keys) const;
+    /// What a screen reader is told about the item with the focus in the active window: "{role}: {name}".
+    Q_INVOKABLE QString spoken() const;
     /// The item with the focus in that item's window.
     Q_INVOKABLE QQuickItem* focusItem(QQuickItem* item) const;
     /// Where an item lies in its window, scaled as it is shown.

@@ -1,0 +1,20 @@
+import QtQuick
+import Ormiva.Kit
+
+// The themes, the one in use checked.
+OMMenu {
+    title: qsTr("Theme")
+    zoomed: false
+
+    Repeater {
+        model: VLUI.themes
+
+        OMMenuItem {
+            required property themeChoice modelData
+
+            text: modelData.name
+            checked: modelData.id === VLUI.currentThemeID
+            onTriggered: VLUI.chooseTheme(modelData.id)
+        }
+    }
+}
