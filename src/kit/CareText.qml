@@ -16,7 +16,7 @@ TextEdit {
     font.pointSize: size * VLUI.pointsPerPixel
     color: VLUI.text
     selectionColor: VLUI.accent
-    selectedTextColor: "white"
+    selectedTextColor: VLUI.inkOn(VLUI.accent)
     Accessible.role: Accessible.StaticText
     Accessible.name: care.text
 

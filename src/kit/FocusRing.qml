@@ -12,5 +12,5 @@ Plate {
     visible: shown
     radius: corner + reach
     rimWidth: 2
-    rim: VLUI.mix(VLUI.accent, "white", 0.55)
+    rim: VLUI.mix(VLUI.accent, "white", 0.7)
 }

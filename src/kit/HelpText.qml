@@ -15,7 +15,7 @@ TextEdit {
     font.pointSize: 13.5 * VLUI.pointsPerPixel
     color: VLUI.text
     selectionColor: VLUI.accent
-    selectedTextColor: "white"
+    selectedTextColor: VLUI.inkOn(VLUI.accent)
     Accessible.role: Accessible.StaticText
     Accessible.name: help.body
 

@@ -21,7 +21,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         text: label.title
         size: 12.5
-        color: label.highlighted ? "white" : VLUI.text
+        color: label.highlighted ? VLUI.inkOn(VLUI.accent) : VLUI.text
         elide: Text.ElideRight
     }
     OMText {
@@ -32,6 +32,6 @@ Item {
         visible: label.keys !== ""
         text: label.keys
         size: 11.5
-        color: label.highlighted ? "white" : VLUI.dim
+        color: label.highlighted ? VLUI.inkOn(VLUI.accent) : VLUI.dim
     }
 }

@@ -37,7 +37,7 @@ T.MenuItem {
         visible: item.checked
         name: "checkmark"
         size: 14
-        color: item.highlighted ? "white" : VLUI.text
+        color: item.highlighted ? VLUI.inkOn(VLUI.accent) : VLUI.text
     }
 
     arrow: Symbol {
@@ -46,7 +46,7 @@ T.MenuItem {
         visible: item.subMenu
         name: "chevron.right"
         size: 15
-        color: item.highlighted ? "white" : VLUI.dim
+        color: item.highlighted ? VLUI.inkOn(VLUI.accent) : VLUI.dim
     }
 
     background: Plate {

@@ -13,7 +13,7 @@ OMButton {
     // The colour of a prominent button.
     property color tint: VLUI.accent
 
-    readonly property color ink: prominent ? "white" : VLUI.text
+    readonly property color ink: prominent ? VLUI.inkOn(tint) : VLUI.text
 
     horizontalPadding: compact ? 12 : 16
     verticalPadding: compact ? 5 : 8
@@ -31,8 +31,8 @@ OMButton {
         radius: height / 2
         rimWidth: 1
         rim: VLUI.at("white", button.hovered ? 0.42 : 0.22)
-        upper: VLUI.mix(button.prominent ? button.tint : VLUI.panelTop, "white", button.hovered ? 0.17 : 0.07)
-        lower: button.prominent ? VLUI.mix(button.tint, "black", button.hovered ? 0 : 0.1) : VLUI.mix(VLUI.panelBottom, "white", button.hovered ? 0.1 : 0)
+        upper: VLUI.mix(button.prominent ? button.tint : VLUI.panelTop, "white", button.hovered ? 0.12 : 0.05)
+        lower: button.prominent ? VLUI.mix(button.tint, "black", button.hovered ? 0 : 0.05) : VLUI.mix(VLUI.panelBottom, "white", button.hovered ? 0.1 : 0)
 
         FocusRing {
             shown: button.visualFocus

@@ -34,7 +34,6 @@ Item {
             width: parent.width
             text: VLKAbout.version
             size: 12
-            color: VLUI.dim
             horizontalAlignment: Text.AlignHCenter
         }
 
@@ -72,7 +71,6 @@ Item {
             width: parent.width
             text: VLKAbout.closingLine()
             size: 10.5
-            color: VLUI.dim
             horizontalAlignment: Text.AlignHCenter
         }
     }

@@ -60,7 +60,7 @@ FocusScope {
         font.pointSize: 13 * VLUI.pointsPerPixel
         color: VLUI.text
         selectionColor: VLUI.accent
-        selectedTextColor: "white"
+        selectedTextColor: VLUI.inkOn(VLUI.accent)
         clip: true
         Accessible.role: Accessible.EditableText
         Accessible.name: placeholderText

@@ -74,6 +74,14 @@ void VLUI::zoomTo(int percent) {
     AppModel::shared().act([percent] { VLZoom::setValue(percent / 100.0); });
 }
 
+QColor VLUI::inkOn(const QColor& ground) const {
+    constexpr double wellReadable = 4.5; // the least contrast of text in WCAG 2, level AA
+    const VLKTheme::RGB below = {ground.redF(), ground.greenF(), ground.blueF()};
+    const double white = VLKTheme::RGB::contrast({1, 1, 1}, below);
+    const double black = VLKTheme::RGB::contrast({0, 0, 0}, below);
+    return white >= wellReadable || white >= black ? Qt::white : Qt::black;
+}
+
 QColor VLUI::at(QColor base, double opacity) const {
     base.setAlphaF(static_cast<float>(opacity));
     return base;

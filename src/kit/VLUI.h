@@ -93,6 +93,9 @@ public:
     Q_INVOKABLE void zoomIn();
     Q_INVOKABLE void zoomOut();
     Q_INVOKABLE void zoomTo(int percent);
+    /// The colour for text on an opaque `ground`: white where it can be read well, else black or white,
+    /// whichever stands out more.
+    Q_INVOKABLE QColor inkOn(const QColor& ground) const;
     /// `base` at an opacity from 0 to 1.
     Q_INVOKABLE QColor at(QColor base, double opacity) const;
     /// The mixture of two opaque colours, `part` (0 to 1) of it the second.

@@ -18,7 +18,7 @@ OMButton {
         text: chip.text
         size: 11.5
         font.weight: chip.selected ? Font.Bold : Font.Medium
-        color: chip.selected ? "white" : VLUI.text
+        color: chip.selected ? VLUI.inkOn(VLUI.accent) : VLUI.text
         verticalAlignment: Text.AlignVCenter
     }
 

@@ -16,7 +16,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         name: line.symbol
         size: 17
-        color: line.selected ? "white" : VLUI.dim
+        color: line.selected ? VLUI.inkOn(VLUI.accent) : VLUI.dim
     }
     OMText {
         anchors.left: icon.right
@@ -27,7 +27,7 @@ Item {
         text: line.title
         size: 13
         font.weight: line.selected ? Font.DemiBold : Font.Medium
-        color: line.selected ? "white" : VLUI.text
+        color: line.selected ? VLUI.inkOn(VLUI.accent) : VLUI.text
         elide: Text.ElideRight
     }
 }

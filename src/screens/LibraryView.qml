@@ -33,7 +33,7 @@ FocusScope {
         // Quieter ground, from which the rows stand out.
         Rectangle {
             anchors.fill: parent
-            color: VLUI.at("black", 0.22)
+            color: VLUI.at("black", 0.45)
         }
 
         VLSearchField {
