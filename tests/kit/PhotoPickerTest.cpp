@@ -17,6 +17,7 @@
 
 #include <array>
 #include <cmath>
+#include <malloc.h>
 #include <random>
 
 namespace ormiva {
@@ -156,6 +157,7 @@ qint64 memory(const char* figure) {
 
 /// By how many megabytes the memory in use rose at most during `work`.
 qint64 peakMegabytes(const std::function<void()>& work) {
+    malloc_trim(0); // What earlier work left free would be taken first, and not count.
     QFile reset(u"/proc/self/clear_refs"_qs);
     EXPECT_TRUE(reset.open(QIODevice::WriteOnly) && reset.write("5") == 1);
     reset.close();
