@@ -1,5 +1,7 @@
 #include "PhotoPicker.h"
 
+#include "WholePicture.h"
+
 #include <QBuffer>
 #include <QColorSpace>
 #include <QFile>
@@ -36,28 +38,6 @@ std::optional<QByteArray> contents(const QString& path) {
     return data;
 }
 
-/// Whether a JPEG goes on to its end mark. The decoder would make up for what is missing with grey.
-bool isWholeJpeg(const QByteArray& data) {
-    constexpr auto code = [](char byte) { return static_cast<unsigned char>(byte); };
-    qsizetype at = 0;
-    while ((at = data.indexOf('\xFF', at)) >= 0 && at + 1 < data.size()) {
-        const unsigned marker = code(data[at + 1]);
-        if (marker == 0xD9)
-            return true;
-        if (marker == 0xFF) { // Padding before a marker.
-            ++at;
-            continue;
-        }
-        at += 2;
-        // Escaped bytes of the picture, its restart marks and the start mark stand alone; all else tells its
-        // length.
-        const bool alone = marker <= 0x01 || (marker >= 0xD0 && marker <= 0xD8);
-        if (!alone && at + 1 < data.size())
-            at += code(data[at]) * 256 + code(data[at + 1]);
-    }
-    return false;
-}
-
 /// The size to which a picture is scaled; never larger than `size`.
 QSize shrunk(const QSize& size, qint64 max) {
     const double scale = std::min(static_cast<double>(max) / std::max(size.width(), size.height()), 1.0);
@@ -74,7 +54,7 @@ QImage decoded(const QByteArray& data, int max) {
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
     const bool isJpeg = reader.format() == "jpeg";
-    if (isJpeg && !isWholeJpeg(data))
+    if (!WholePicture::isWhole(data, reader.format()))
         return {};
     const QSize stored = reader.size(); // Not valid where the format doesn't tell it beforehand.
     const qint64 pixels = static_cast<qint64>(stored.width()) * stored.height();

@@ -426,13 +426,22 @@ TEST(Shrink, GivesNothingForAJpegThatBreaksOff) {
 
 TEST(Shrink, GivesNothingForOtherPicturesThatBreakOff) {
     const QImage image = noise(300, 200);
-    for (const char* format : {"PNG", "WEBP", "TIFF"}) {
+    for (const char* format : {"PNG", "WEBP", "TIFF", "BMP", "PPM"}) {
         const QByteArray whole = encoded(image, format);
         for (int tenth = 0; tenth < 10; ++tenth)
             EXPECT_EQ(PhotoPicker::shrink(whole.left(whole.size() * tenth / 10)), nothing)
                 << format << " " << tenth;
         EXPECT_EQ(sizeOf(PhotoPicker::shrink(whole)), image.size()) << format;
     }
+}
+
+TEST(Shrink, GivesNothingForAGifWhosePictureBreaksOff) {
+    const QByteArray whole = QByteArray::fromBase64(
+        "R0lGODlhGAAQAPEAAOYAGqIAXV0AohoA5iH5BAAAAAAALAAAAAAYABAAAAJHhI+py+2/wpES1GowDZta/oEiR5bm"
+        "iaYqKpCtG7xcK9OCfdNxHu/5DwwKh0ThIHf8JZM35lIwiEKPUWp1Oq1qt9yu9wsOfwsAOw==");
+    EXPECT_EQ(sizeOf(PhotoPicker::shrink(whole)), QSize(24, 16));
+    for (qsizetype length = 0; length < whole.size() - 1; ++length) // The last byte is the end of the file.
+        EXPECT_EQ(PhotoPicker::shrink(whole.left(length)), nothing) << length;
 }
 
 TEST(Shrink, StandsWhateverIsWrongInsideAFile) {
