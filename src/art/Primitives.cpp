@@ -40,7 +40,8 @@ QRadialGradient radial(QPointF centre, double startRadius, double endRadius, con
                        const QColor& to) {
     QRadialGradient gradient(centre, endRadius);
     gradient.setColorAt(0, from);
-    gradient.setColorAt(startRadius / endRadius, from);
+    if (startRadius < endRadius) // Not in the habitat of a page that is far higher than wide.
+        gradient.setColorAt(startRadius / endRadius, from);
     gradient.setColorAt(1, to);
     return gradient;
 }

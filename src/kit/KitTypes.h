@@ -1,10 +1,12 @@
 #pragma once
 
 #include "AppModel.h"
+#include "OMRender.h"
 #include "Screen.h"
 #include "SourceRef.h"
 #include "Species.h"
 
+#include <QObject>
 #include <QQmlEngine>
 #include <QtQml/qqmlregistration.h>
 
@@ -23,6 +25,16 @@ public:
         QQmlEngine::setObjectOwnership(model, QQmlEngine::CppOwnership);
         return model;
     }
+};
+
+class OMRenderForQml final : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(OMRender)
+    QML_SINGLETON
+    Q_PROPERTY(bool snapshotMode READ snapshotMode CONSTANT FINAL)
+
+public:
+    bool snapshotMode() const { return OMRender::snapshotMode; }
 };
 
 struct ScreenInfoForQml {

@@ -3,42 +3,15 @@ import QtQuick.Templates as T
 import Ormiva.Kit
 
 // A vertical scroller that keeps its content at full width.
-Item {
+ScrollArea {
     id: scroll
 
     default property alias content: column.data
     property alias contentY: flick.contentY
-    property alias motor: motor
-    property real padding: 24
     property alias spacing: column.spacing
-    property real maximumWidth: 1280
-    // What a screen reader calls the area.
-    property string name
-    readonly property bool overflowing: flick.contentHeight > flick.height
 
-    activeFocusOnTab: overflowing
-    Accessible.role: Accessible.Pane
-    Accessible.name: name
-    Accessible.focusable: overflowing
-
-    Keys.onPressed: event => {
-        if (event.modifiers === Qt.NoModifier || event.modifiers === Qt.KeypadModifier)
-            event.accepted = motor.key(event.key)
-    }
-
-    ScrollMotor {
-        id: motor
-
-        target: flick
-    }
-
-    WheelScroll {
-        motor: scroll.motor
-    }
-
-    TouchScroll {
-        motor: scroll.motor
-    }
+    implicitHeight: flick.contentHeight
+    target: flick
 
     Flickable {
         id: flick
@@ -46,7 +19,7 @@ Item {
         anchors.fill: parent
         interactive: false
         boundsBehavior: Flickable.StopAtBounds
-        clip: true
+        clip: !OMRender.snapshotMode
         contentWidth: width
         contentHeight: column.implicitHeight + 2 * scroll.padding
         T.ScrollBar.vertical: OMScrollBar {}
@@ -56,14 +29,8 @@ Item {
 
             x: Math.max(scroll.padding, (flick.width - width) / 2)
             y: scroll.padding
-            width: Math.min(scroll.maximumWidth, flick.width - 2 * scroll.padding)
+            width: scroll.contentWidth
             spacing: 18
         }
-    }
-
-    FocusRing {
-        shown: scroll.activeFocus
-        corner: 8
-        reach: -2
     }
 }

@@ -11,7 +11,7 @@ T.ScrollBar {
     padding: 2
     minimumSize: 0.06
     hoverEnabled: true
-    visible: size < 1
+    visible: size < 1 && !OMRender.snapshotMode
     Accessible.ignored: true
 
     contentItem: Plate {

@@ -11,6 +11,8 @@ Item {
     property string highlight
     readonly property alias sheet: sheet
 
+    implicitHeight: sheet.found ? loader.implicitHeight : nothing.implicitHeight
+
     CareSheet {
         id: sheet
 
@@ -19,6 +21,8 @@ Item {
     }
 
     OMEmpty {
+        id: nothing
+
         anchors.centerIn: parent
         width: parent.width
         visible: !sheet.found

@@ -8,6 +8,7 @@ FocusScope {
 
     readonly property alias results: results
 
+    implicitHeight: Math.max(list.y + list.implicitHeight, sheetView.implicitHeight)
     focus: true
 
     LibraryModel {
@@ -92,6 +93,8 @@ FocusScope {
     }
 
     CareSheetView {
+        id: sheetView
+
         anchors.left: divider.right
         anchors.right: parent.right
         height: parent.height

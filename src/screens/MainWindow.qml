@@ -6,6 +6,8 @@ import Ormiva.Screens
 Item {
     id: main
 
+    implicitHeight: Math.max(rail.implicitHeight, host.implicitHeight)
+
     SideRail {
         id: rail
 
@@ -14,6 +16,8 @@ Item {
     }
 
     ScreenHost {
+        id: host
+
         anchors.left: rail.right
         anchors.right: parent.right
         height: parent.height

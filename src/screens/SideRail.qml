@@ -6,6 +6,7 @@ import Ormiva.Screens
 Rectangle {
     id: rail
 
+    implicitHeight: ways.y + ways.implicitHeight + 22
     gradient: Gradient {
         GradientStop { position: 0; color: VLUI.at(VLUI.panelTop, 0.85) }
         GradientStop { position: 1; color: VLUI.at(VLUI.panelBottom, 0.9) }
@@ -50,6 +51,8 @@ Rectangle {
     }
 
     Column {
+        id: ways
+
         anchors.top: heading.bottom
         anchors.topMargin: 16
         x: 12

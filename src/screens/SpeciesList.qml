@@ -12,6 +12,8 @@ FocusScope {
     // The arrow up was pressed in the first row.
     signal leftUpwards()
 
+    implicitHeight: OMRender.snapshotMode ? list.contentHeight + list.topMargin + list.bottomMargin : 0
+
     // Takes the focus, on the open species when it is listed.
     function enter() {
         if (list.count === 0)
@@ -50,7 +52,7 @@ FocusScope {
         currentIndex: -1
         interactive: false
         boundsBehavior: Flickable.StopAtBounds
-        clip: true
+        clip: !OMRender.snapshotMode
         spacing: 4
         topMargin: 4
         bottomMargin: 16

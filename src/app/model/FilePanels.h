@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -14,11 +15,14 @@ class OMStore;
 
 /// A kind of file that a panel offers.
 struct FileType {
-    QString name;       ///< for the user
-    QString suffix;     ///< without the dot
-    QString identifier; ///< under which the system knows it
+    QString name;                   ///< for the user
+    QString suffix;                 ///< without the dot; what a new file gets
+    QString identifier;             ///< under which the system knows it
+    QStringList otherSuffixes = {}; ///< that files of this kind may have as well, without the dot
 
     static FileType backup();
+    /// All suffixes, the one of new files first.
+    QStringList suffixes() const { return QStringList(suffix) + otherSuffixes; }
 
     friend bool operator==(const FileType&, const FileType&) = default;
 };
@@ -35,7 +39,7 @@ public:
     FilePanels(const FilePanels&) = delete;
     FilePanels& operator=(const FilePanels&) = delete;
 
-    /// Asks where to save, offering `name`; absent when the user didn't confirm. The result ends in the
+    /// Asks where to save, offering `name`; absent when the user didn't confirm. The result ends in a
     /// suffix of one of `types`, and the user has agreed to replace a file that is there.
     virtual std::optional<QString> save(const QString& name, const QList<FileType>& types) = 0;
     /// Asks for one file that exists; absent when the user didn't confirm.

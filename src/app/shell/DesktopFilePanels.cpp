@@ -22,11 +22,30 @@ namespace ormiva {
 
 namespace {
 
-/// "VLK Ormiva backup (*.ombackup)" for each type.
-QStringList nameFilters(const QList<FileType>& types) {
+/// "Images (*.jpg *.png)".
+QString nameFilter(const QString& name, const QStringList& suffixes) {
+    return QStringLiteral("%1 (*.%2)").arg(name, suffixes.join(QStringLiteral(" *.")));
+}
+
+/// What a new file may be, one entry for each type.
+QStringList saveFilters(const QList<FileType>& types) {
     QStringList filters;
     for (const FileType& type : types)
-        filters.append(QStringLiteral("%1 (*.%2)").arg(type.name, type.suffix));
+        filters.append(nameFilter(type.name, type.suffixes()));
+    return filters;
+}
+
+/// What can be chosen, one entry for each type. Cameras write "IMG_0001.JPG", and not every desktop's
+/// dialogue takes that for a "*.jpg".
+QStringList openFilters(const QList<FileType>& types) {
+    QStringList filters;
+    for (const FileType& type : types) {
+        QStringList suffixes = type.suffixes();
+        for (const QString& suffix : type.suffixes())
+            suffixes.append(suffix.toUpper());
+        suffixes.removeDuplicates();
+        filters.append(nameFilter(type.name, suffixes));
+    }
     return filters;
 }
 
@@ -46,8 +65,11 @@ std::optional<QString> chosen(QFileDialog& dialog) {
 }
 
 bool hasSuffixOf(const QString& path, const QList<FileType>& types) {
-    return std::ranges::any_of(
-        types, [&](const FileType& type) { return path.endsWith(u'.' + type.suffix, Qt::CaseInsensitive); });
+    return std::ranges::any_of(types, [&](const FileType& type) {
+        return std::ranges::any_of(type.suffixes(), [&](const QString& suffix) {
+            return path.endsWith(u'.' + suffix, Qt::CaseInsensitive);
+        });
+    });
 }
 
 bool agreesToReplace(const QString& path) {
@@ -73,7 +95,7 @@ std::optional<QString> DesktopFilePanels::save(const QString& name, const QList<
                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setNameFilters(nameFilters(types));
+    dialog.setNameFilters(saveFilters(types));
     dialog.selectFile(name);
     const auto path = chosen(dialog);
     if (!path || types.isEmpty() || hasSuffixOf(*path, types))
@@ -87,7 +109,8 @@ std::optional<QString> DesktopFilePanels::open(const QList<FileType>& types, con
     QFileDialog dialog(nullptr, message, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilters(nameFilters(types));
+    dialog.setOption(QFileDialog::HideNameFilterDetails); // Images come under a row of suffixes.
+    dialog.setNameFilters(openFilters(types));
     return chosen(dialog);
 }
 

@@ -1,15 +1,19 @@
 #include "DesktopFilePanels.h"
 
 #include "Opener.h"
+#include "PhotoPicker.h"
 #include "Printers.h"
 #include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDBusConnection>
 #include <QFileDialog>
+#include <QImage>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -128,6 +132,71 @@ TEST(OpenPanel, GivesAFileThatExists) {
     EXPECT_EQ(title, u"Choose a VLK Ormiva backup"_qs);
     whenUp<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(DesktopFilePanels().open(backups, u"Choose"_qs), std::nullopt);
+}
+
+const FileType pictures = {u"Images"_qs, u"jpg"_qs, u"public.image"_qs, {u"jpeg"_qs, u"png"_qs}};
+
+TEST(SavePanel, OffersAllSuffixesOfATypeAndAddsTheFirst) {
+    const TemporaryFolder folder;
+    QStringList filters;
+    whenUp<QFileDialog>([&](QFileDialog& dialog) {
+        filters = dialog.nameFilters();
+        dialog.findChild<QLineEdit*>()->setText(folder.file(u"mine"_qs));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    EXPECT_EQ(DesktopFilePanels().save(u"b.jpg"_qs, {pictures}), folder.file(u"mine.jpg"_qs));
+    EXPECT_EQ(filters, QStringList({u"Images (*.jpg *.jpeg *.png)"_qs}));
+    typeAndAccept(folder.file(u"mine.PNG"_qs));
+    EXPECT_EQ(DesktopFilePanels().save(u"b.jpg"_qs, {pictures}), folder.file(u"mine.PNG"_qs));
+}
+
+TEST(OpenPanel, HasOneEntryForAllSuffixesOfAType) {
+    const TemporaryFolder folder;
+    for (const char* name : {"a.jpg", "b.PNG", "c.JPEG", "d.txt", "e.ombackup"})
+        folder.write(QString::fromLatin1(name), "bytes");
+    QStringList filters;
+    QStringList entries;
+    QStringList offered;
+    whenUp<QFileDialog>([&](QFileDialog& dialog) {
+        filters = dialog.nameFilters();
+        const auto* types = dialog.findChild<QComboBox*>(u"fileTypeCombo"_qs);
+        for (int row = 0; types && row < types->count(); ++row)
+            entries.append(types->itemText(row));
+        dialog.setDirectory(folder.path());
+        const auto* files = dialog.findChild<QListView*>(u"listView"_qs);
+        const auto listed = [files] { return files->model()->rowCount(files->rootIndex()); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return listed() == 3; })) << listed();
+        for (int row = 0; row < listed(); ++row)
+            offered.append(files->model()->index(row, 0, files->rootIndex()).data().toString());
+        dialog.reject();
+    });
+    EXPECT_EQ(DesktopFilePanels().open({pictures}, u"Choose a photo"_qs), std::nullopt);
+    EXPECT_EQ(filters, QStringList({u"Images (*.jpg *.jpeg *.png *.JPG *.JPEG *.PNG)"_qs}));
+    EXPECT_EQ(entries, QStringList({u"Images"_qs}));
+    offered.sort();
+    EXPECT_EQ(offered, QStringList({u"a.jpg"_qs, u"b.PNG"_qs, u"c.JPEG"_qs}));
+}
+
+TEST(OpenPanel, PicksAPhoto) {
+    const TemporaryFolder folder;
+    QImage image(3000, 1500, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    ASSERT_TRUE(image.save(folder.file(u"Rex.png"_qs)));
+    QString title;
+    QStringList filters;
+    whenUp<QFileDialog>([&](QFileDialog& dialog) {
+        title = dialog.windowTitle();
+        filters = dialog.nameFilters();
+        dialog.findChild<QLineEdit*>()->setText(folder.file(u"Rex.png"_qs));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    DesktopFilePanels panels;
+    const auto photo = PhotoPicker::pick(panels);
+    ASSERT_TRUE(photo);
+    EXPECT_EQ(QImage::fromData(*photo, "JPEG").size(), QSize(900, 450));
+    EXPECT_EQ(title, u"Choose a photo"_qs);
+    ASSERT_EQ(filters.size(), 1);
+    EXPECT_TRUE(filters.first().startsWith(u"Images (*.jpg "_qs)) << filters.first().toStdString();
 }
 
 class Revealing : public ::testing::Test {
