@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppModel.h"
+#include "OMDay.h"
 #include "Screen.h"
 #include "SourceRef.h"
 #include "Species.h"
@@ -23,6 +24,12 @@ public:
         QQmlEngine::setObjectOwnership(model, QQmlEngine::CppOwnership);
         return model;
     }
+};
+
+struct OMDayForQml {
+    Q_GADGET
+    QML_FOREIGN(ormiva::OMDay)
+    QML_VALUE_TYPE(omDay)
 };
 
 struct ScreenInfoForQml {

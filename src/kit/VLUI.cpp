@@ -65,6 +65,17 @@ QColor VLUI::mix(const QColor& first, const QColor& second, double part) const {
                             blend(first.blueF(), second.blueF()));
 }
 
+QColor VLUI::inkOn(const QColor& ground) const {
+    const auto rgb = [](const QColor& color) {
+        return VLKTheme::RGB{color.redF(), color.greenF(), color.blueF()};
+    };
+    const QColor dark(0x12, 0x16, 0x14);
+    return VLKTheme::RGB::contrast(rgb(ground), rgb(Qt::white)) >=
+                   VLKTheme::RGB::contrast(rgb(ground), rgb(dark))
+               ? QColor(Qt::white)
+               : dark;
+}
+
 void VLUI::follow(const QString& key) {
     if (key == VLKThemes::key) {
         readTheme();

@@ -89,6 +89,8 @@ public:
     Q_INVOKABLE QColor at(QColor base, double opacity) const;
     /// The mixture of two opaque colours, `part` (0 to 1) of it the second.
     Q_INVOKABLE QColor mix(const QColor& first, const QColor& second, double part) const;
+    /// White or a near black, whichever is easier to read on an opaque `ground`.
+    Q_INVOKABLE QColor inkOn(const QColor& ground) const;
 
 Q_SIGNALS:
     void themeChanged();

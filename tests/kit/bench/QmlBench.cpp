@@ -3,6 +3,7 @@
 #include "AppModel.h"
 #include "OMInfo.h"
 #include "OMPrefs.h"
+#include "OMStore.h"
 #include "OMThemes.h"
 #include "Opener.h"
 #include "VLKKit.h"
@@ -53,6 +54,8 @@ QmlBench::QmlBench() {
 void QmlBench::reset() {
     m_opened.clear();
     m_deleted = 0;
+    UserCalendar::setSurroundings({});
+    OMStore::setShared(nullptr);
     OMPrefs::remove(VLKThemes::key);
     OMPrefs::remove(VLZoom::key);
     AppModel& model = AppModel::shared();
@@ -94,6 +97,38 @@ int QmlBench::tickedSymptoms() const {
     return static_cast<int>(AppModel::shared().checkerSymptoms().size());
 }
 
+void QmlBench::fixCalendar(const QString& today, const QString& locale) const {
+    const QString zone = QStringLiteral("UTC");
+    UserCalendar::setSurroundings({{}, zone, locale});
+    const Instant noon = day(today).date();
+    UserCalendar::setSurroundings({[noon] { return noon; }, zone, locale});
+}
+
+OMDay QmlBench::day(const QString& iso) const {
+    return OMDay::fromIso(iso).value();
+}
+
+void QmlBench::openStore() {
+    const QString path = m_records.filePath(QStringLiteral("%1.sqlite").arg(++m_stores));
+    OMStore::setShared(std::make_unique<OMStore>(path));
+}
+
+qint64 QmlBench::addPet(const QString& name, const QString& speciesID) const {
+    Pet pet;
+    pet.name = name;
+    pet.speciesID = QStringLiteral("test-gecko");
+    OMStore::shared()->save(pet);
+    // A new pet's species is one of the library, but a later library may have lost it.
+    OMStore::shared()->db().run(QStringLiteral("UPDATE pet SET species_id = ? WHERE id = ?"),
+                                {speciesID, pet.id});
+    OMStore::shared()->changed();
+    return pet.id;
+}
+
+void QmlBench::removePet(qint64 id) const {
+    OMStore::shared()->remove<Pet>(id);
+}
+
 QList<QObject*> QmlBench::all(QQuickItem* root, const QString& type) const {
     QList<QObject*> found;
     visit(*root, [&](QQuickItem& item) {
@@ -128,6 +163,11 @@ QStringList QmlBench::lines(QQuickItem* textEdit) const {
 QString QmlBench::accessibleName(QQuickItem* item) const {
     const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(item);
     return face ? face->text(QAccessible::Name) : QString();
+}
+
+int QmlBench::accessibleRole(QQuickItem* item) const {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(item);
+    return face ? face->role() : QAccessible::NoRole;
 }
 
 QString QmlBench::clipboard() const {
