@@ -21,9 +21,19 @@ const QString family = QStringLiteral("Material Design Icons");
 
 /// Every symbol that a record, a screen or a page asks for.
 QStringList wanted() {
-    QStringList names = {QStringLiteral("magnifyingglass"),  QStringLiteral("xmark.circle.fill"),
-                         QStringLiteral("info.circle.fill"), QStringLiteral("text.book.closed.fill"),
-                         QStringLiteral("checkmark"),        QStringLiteral("plus")};
+    QStringList names = {QStringLiteral("magnifyingglass"),
+                         QStringLiteral("xmark.circle.fill"),
+                         QStringLiteral("info.circle.fill"),
+                         QStringLiteral("text.book.closed.fill"),
+                         QStringLiteral("checkmark"),
+                         QStringLiteral("plus"),
+                         QStringLiteral("calendar"),
+                         QStringLiteral("chevron.left"),
+                         QStringLiteral("chevron.left.2"),
+                         QStringLiteral("chevron.right"),
+                         QStringLiteral("chevron.right.2"),
+                         QStringLiteral("chevron.up.chevron.down"),
+                         QStringLiteral("exclamationmark.triangle.fill")};
     for (const ScreenInfo& screen : allScreens())
         names.append(screen.symbol);
     for (const CareFieldInfo& field : allCareFields())
