@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppModel.h"
+#include "OMDay.h"
 #include "OMRender.h"
 #include "Screen.h"
 #include "SourceRef.h"
@@ -35,6 +36,12 @@ class OMRenderForQml final : public QObject {
 
 public:
     bool snapshotMode() const { return OMRender::snapshotMode; }
+};
+
+struct OMDayForQml {
+    Q_GADGET
+    QML_FOREIGN(ormiva::OMDay)
+    QML_VALUE_TYPE(omDay)
 };
 
 struct ScreenInfoForQml {

@@ -36,7 +36,10 @@ constexpr auto table = std::to_array<Entry>({
     {u"checkmark.square.fill", u'\xf132'}, // checkbox-marked
     {u"chevron.down", u'\xf140'}, // chevron-down
     {u"chevron.left", u'\xf141'}, // chevron-left
+    {u"chevron.left.2", u'\xf13d'}, // chevron-double-left
     {u"chevron.right", u'\xf142'}, // chevron-right
+    {u"chevron.right.2", u'\xf13e'}, // chevron-double-right
+    {u"chevron.up.chevron.down", u'\xf54f'}, // unfold-more
     {u"clock.badge.exclamationmark.fill", u'\xf5ce'}, // clock-alert
     {u"clock.fill", u'\xf150'}, // clock
     {u"cross.circle.fill", u'\xf417'}, // plus-circle

@@ -34,7 +34,6 @@ Item {
         function init() {
             Bench.reset()
             AppModel.screen = "home"
-            Bench.removePets()
             for (const menu of open())
                 menu.close()
             tryVerify(() => open().length === 0 && Bench.all(content, "VLChromeButton").length === 0)
@@ -135,9 +134,9 @@ Item {
             compare([Bench.sheet(), Bench.sheetPet()], ["r0", 0])
             closeSheet()
 
-            Bench.savePet("Zoe", "test-gecko")
-            const first = Bench.savePet("ava", "test-rabbit")
-            Bench.savePet("Max", "test-crab")
+            Bench.addPet("Zoe", "test-gecko")
+            const first = Bench.addPet("ava", "test-rabbit")
+            Bench.addPet("Max", "test-crab")
             for (const [item, sheet] of [["Log a Weight…", "w0"], ["Log a Meal…", "f0"], ["New Reminder…", "r0"]]) {
                 choose("File", item)
                 compare([Bench.sheet(), Bench.sheetPet()], [sheet, first])
@@ -148,7 +147,7 @@ Item {
         }
 
         function test_newEntriesAreOpenedByKeys() {
-            Bench.savePet("Ava", "test-rabbit")
+            Bench.addPet("Ava", "test-rabbit")
             for (const [keys, sheet] of [["Ctrl+N", "p0"], ["Ctrl+Shift+W", "w0"]]) {
                 Bench.press(main, keys)
                 compare(Bench.sheet(), sheet)
@@ -161,7 +160,7 @@ Item {
             compare(AppModel.message, "Add a pet first (My Pets → Add), then export its care sheet.")
             AppModel.dismissMessage()
             tryVerify(() => Bench.all(content, "VLChromeButton").length === 0)
-            Bench.savePet("Ava", "test-rabbit")
+            Bench.addPet("Ava", "test-rabbit")
             Bench.press(main, "Ctrl+Shift+E")
             choose("File", "Export Records for the Vet (PDF)…")
             Bench.press(main, "Ctrl+Shift+B")

@@ -10,6 +10,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/dtfmtsym.h>
 #include <unicode/gregocal.h>
+#include <unicode/numfmt.h>
 #include <unicode/tzrule.h>
 #include <unicode/tztrans.h>
 
@@ -243,6 +244,22 @@ QStringList shortWeekdays() {
     for (int32_t day = UCAL_SUNDAY; day < count; ++day) // The first entry is not used.
         days.append(fromIcu(names[day]));
     return days;
+}
+
+QStringList dayNumbers() {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(dateLocale(), status));
+    QStringList numbers;
+    for (int32_t day = 1; day <= 31; ++day) {
+        icu::UnicodeString text;
+        numbers.append(format ? fromIcu(format->format(day, text)) : QString::number(day));
+    }
+    return numbers;
+}
+
+QString monthAndYear(Instant instant) {
+    UErrorCode status = U_ZERO_ERROR;
+    return formatted(icu::DateFormat::createInstanceForSkeleton("yMMMM", dateLocale(), status), instant);
 }
 
 QString mediumDate(Instant instant) {

@@ -84,6 +84,12 @@ int firstWeekday();
 /// The locale's abbreviated names of the days, Sunday first.
 QStringList shortWeekdays();
 
+/// The numbers of the days, "1" to "31", in the digits of the user's locale.
+QStringList dayNumbers();
+
+/// The month of `instant` with its year in the user's locale, as "March 2026" or "März 2026", in the
+/// Gregorian calendar.
+QString monthAndYear(Instant instant);
 /// The day in the medium date style of the user's locale, in the Gregorian calendar.
 QString mediumDate(Instant instant);
 /// The time of day in the short style of the user's locale, as "9:05 AM" or "09:05".

@@ -95,6 +95,34 @@ TEST(UserCalendar, WritesMediumDatesInTheLocaleWithTheGregorianYear) {
     }
 }
 
+TEST(UserCalendar, WritesMonthsInTheLocaleWithTheGregorianYear) {
+    const QList<std::pair<QString, QString>> expected = {
+        {QStringLiteral("en_US"), QStringLiteral("March 2026")},
+        {QStringLiteral("de_DE"), QStringLiteral("März 2026")},
+        {QStringLiteral("pl_PL"), QStringLiteral("marzec 2026")}, // Not the "marca" of a date.
+        {QStringLiteral("th_TH"), QStringLiteral("มีนาคม 2026")},
+        {QStringLiteral("fa_IR"), QStringLiteral("مارس ۲۰۲۶")},
+        {QStringLiteral("ja_JP@calendar=japanese"), QStringLiteral("2026年3月")},
+    };
+    for (const auto& [locale, text] : expected) {
+        const FixedCalendar calendar(utc(2026, 1, 1), QStringLiteral("UTC"), locale);
+        EXPECT_EQ(UserCalendar::monthAndYear(utc(2026, 3, 7)), text) << locale.toStdString();
+    }
+}
+
+TEST(UserCalendar, NumbersTheDaysInTheDigitsOfTheLocale) {
+    const auto numbers = [](const QString& locale) {
+        const FixedCalendar calendar(utc(2026, 1, 1), QStringLiteral("UTC"), locale);
+        return UserCalendar::dayNumbers();
+    };
+    const QStringList english = numbers(QStringLiteral("en_US"));
+    ASSERT_EQ(english.size(), 31);
+    for (int day = 1; day <= 31; ++day)
+        EXPECT_EQ(english.at(day - 1), QString::number(day));
+    EXPECT_EQ(numbers(QStringLiteral("fa_IR")).at(16), QStringLiteral("۱۷"));
+    EXPECT_EQ(numbers(QStringLiteral("ja_JP")).at(16), QStringLiteral("17"));
+}
+
 TEST(UserCalendar, WritesTheDateThatItIsInTheUsersZone) {
     const FixedCalendar calendar(utc(2026, 1, 1), QStringLiteral("Pacific/Kiritimati"));
     EXPECT_EQ(UserCalendar::mediumDate(utc(2026, 3, 7, 12)), QStringLiteral("Mar 8, 2026"));

@@ -80,6 +80,8 @@ void QmlBench::reset() {
     m_opened.clear();
     m_deleted = 0;
     panels().asked.clear();
+    UserCalendar::setSurroundings({});
+    openStore();
     OMPrefs::remove(VLKThemes::key);
     OMPrefs::remove(VLZoom::key);
     AppModel& model = AppModel::shared();
@@ -133,19 +135,6 @@ qint64 QmlBench::sheetPet() const {
     return index < 0 ? 0 : type->property(index).readOnGadget(record.constData()).toLongLong();
 }
 
-qint64 QmlBench::savePet(const QString& name, const QString& speciesID) const {
-    Pet pet;
-    pet.name = name;
-    pet.speciesID = speciesID;
-    OMStore::shared()->save(pet);
-    return pet.id;
-}
-
-void QmlBench::removePets() const {
-    for (const Pet& pet : OMStore::shared()->pets())
-        OMStore::shared()->remove<Pet>(pet.id);
-}
-
 QStringList QmlBench::asked() const {
     return panels().asked;
 }
@@ -163,6 +152,38 @@ QString QmlBench::activeTitle() const {
 
 QString QmlBench::preference(const QString& key) const {
     return OMPrefs::value(key).toString();
+}
+
+void QmlBench::fixCalendar(const QString& today, const QString& locale) const {
+    const QString zone = QStringLiteral("UTC");
+    UserCalendar::setSurroundings({{}, zone, locale});
+    const Instant noon = day(today).date();
+    UserCalendar::setSurroundings({[noon] { return noon; }, zone, locale});
+}
+
+OMDay QmlBench::day(const QString& iso) const {
+    return OMDay::fromIso(iso).value();
+}
+
+void QmlBench::openStore() {
+    const QString path = m_records.filePath(QStringLiteral("%1.sqlite").arg(++m_stores));
+    OMStore::setShared(std::make_unique<OMStore>(path));
+}
+
+qint64 QmlBench::addPet(const QString& name, const QString& speciesID) const {
+    Pet pet;
+    pet.name = name;
+    pet.speciesID = QStringLiteral("test-gecko");
+    OMStore::shared()->save(pet);
+    // A new pet's species is one of the library, but a later library may have lost it.
+    OMStore::shared()->db().run(QStringLiteral("UPDATE pet SET species_id = ? WHERE id = ?"),
+                                {speciesID, pet.id});
+    OMStore::shared()->changed();
+    return pet.id;
+}
+
+void QmlBench::removePet(qint64 id) const {
+    OMStore::shared()->remove<Pet>(id);
 }
 
 QList<QObject*> QmlBench::all(QQuickItem* root, const QString& type) const {
@@ -199,6 +220,11 @@ QStringList QmlBench::lines(QQuickItem* textEdit) const {
 QString QmlBench::accessibleName(QQuickItem* item) const {
     const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(item);
     return face ? face->text(QAccessible::Name) : QString();
+}
+
+int QmlBench::accessibleRole(QQuickItem* item) const {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(item);
+    return face ? face->role() : QAccessible::NoRole;
 }
 
 QString QmlBench::clipboard() const {

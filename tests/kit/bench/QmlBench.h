@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OMDay.h"
+
 #include <QObject>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -21,7 +23,7 @@ public:
     /// The addresses that went out through the opener since `reset`.
     QStringList opened() const { return m_opened; }
 
-    /// The state of a first start, with the library on show.
+    /// The state of a first start, with the library on show, no records, and the machine's own calendar.
     Q_INVOKABLE void reset();
     Q_INVOKABLE void storeTheme(const QString& id);
     Q_INVOKABLE QString storedTheme() const;
@@ -38,8 +40,6 @@ public:
     Q_INVOKABLE QString sheet() const;
     /// The pet of the record that the editor is open on, 0 for none.
     Q_INVOKABLE qint64 sheetPet() const;
-    Q_INVOKABLE qint64 savePet(const QString& name, const QString& speciesID) const;
-    Q_INVOKABLE void removePets() const;
     /// What the panels for files were asked since `reset`; they are cancelled each time.
     Q_INVOKABLE QStringList asked() const;
 
@@ -48,6 +48,15 @@ public:
     /// The title of the window that has the keyboard.
     Q_INVOKABLE QString activeTitle() const;
     Q_INVOKABLE QString preference(const QString& key) const;
+
+    /// Stops the clock at noon of that day, in UTC, and fixes the locale of dates until `reset`.
+    Q_INVOKABLE void fixCalendar(const QString& today, const QString& locale = QStringLiteral("en_US")) const;
+    Q_INVOKABLE ormiva::OMDay day(const QString& iso) const;
+    /// Opens a new file of records, until `reset`.
+    Q_INVOKABLE void openStore();
+    /// Adds a pet to it and gives its id.
+    Q_INVOKABLE qint64 addPet(const QString& name, const QString& speciesID) const;
+    Q_INVOKABLE void removePet(qint64 id) const;
 
     /// The visible descendants of a type, told by the name of its QML file or C++ class, in the order of the
     /// tree.
@@ -59,6 +68,8 @@ public:
     /// The lines of a TextEdit; rows of a list begin with "• ".
     Q_INVOKABLE QStringList lines(QQuickItem* textEdit) const;
     Q_INVOKABLE QString accessibleName(QQuickItem* item) const;
+    /// As in the enumeration of QML's `Accessible`.
+    Q_INVOKABLE int accessibleRole(QQuickItem* item) const;
     Q_INVOKABLE QString clipboard() const;
     /// Presses keys, as in "Ctrl+2", in a window.
     Q_INVOKABLE void press(QQuickWindow* window, const QString& keys) const;
@@ -74,6 +85,8 @@ public:
 private:
     QStringList m_opened;
     int m_deleted = 0;
+    QTemporaryDir m_records;
+    int m_stores = 0;
 };
 
 /// Prepares the run of a Qt Quick Test executable.
