@@ -110,7 +110,7 @@ FocusScope {
                 anchors.right: parent.right
                 text: frame.error
                 size: 12.5
-                color: VLUI.alert
+                font.weight: Font.DemiBold
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }

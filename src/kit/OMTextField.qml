@@ -31,6 +31,9 @@ T.TextField {
     Accessible.name: controlName === "" ? placeholderText : controlName
     Accessible.description: controlHelp === "" && controlName !== "" ? placeholderText : controlHelp
 
+    // A text that is given shows its beginning.
+    onTextChanged: if (!activeFocus) cursorPosition = 0
+
     background: Item {
         FieldPlate {
             anchors.fill: parent
