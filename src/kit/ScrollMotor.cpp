@@ -1,8 +1,10 @@
 #include "ScrollMotor.h"
 
 #include <QQuickWindow>
+#include <QTimer>
 
 #include <algorithm>
+#include <chrono>
 
 namespace ormiva {
 
@@ -64,6 +66,7 @@ void ScrollMotor::setTarget(QQuickItem* target) {
 }
 
 bool ScrollMotor::wheel(const QPointF& angleDelta, int modifiers) {
+    ++m_homing;
     QPointF turn = angleDelta;
     if (Qt::KeyboardModifiers(modifiers).testFlag(Qt::ShiftModifier))
         turn = turn.transposed();
@@ -74,6 +77,7 @@ bool ScrollMotor::wheel(const QPointF& angleDelta, int modifiers) {
 bool ScrollMotor::key(int key) {
     if (!m_target)
         return false;
+    ++m_homing;
     const Axis axis{*m_target, true};
     const double page = std::max(pointsPerArrow, axis.room() - pageOverlap);
     switch (key) {
@@ -116,8 +120,14 @@ bool ScrollMotor::move(double dx, double dy) {
 }
 
 void ScrollMotor::home() {
+    ++m_homing;
     homeNow();
-    QMetaObject::invokeMethod(this, &ScrollMotor::homeNow, Qt::QueuedConnection);
+    using namespace std::chrono_literals;
+    for (const std::chrono::milliseconds delay : {0ms, 150ms, 400ms, 900ms, 1600ms})
+        QTimer::singleShot(delay, this, [this, run = m_homing] {
+            if (run == m_homing)
+                homeNow();
+        });
 }
 
 void ScrollMotor::homeNow() {

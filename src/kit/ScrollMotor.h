@@ -27,7 +27,8 @@ public:
     Q_INVOKABLE void reveal(QQuickItem* item);
     /// Moves by that many points within the limits; false when nothing moved.
     Q_INVOKABLE bool move(double dx, double dy);
-    /// Moves to the top left corner, and once more when the layout has settled.
+    /// Moves to the top left corner at once, on the next turn of the event loop, and again until 1.6 seconds
+    /// later, against layouts that settle late. What the user scrolls meanwhile ends it.
     Q_INVOKABLE void home();
 
 Q_SIGNALS:
@@ -40,6 +41,7 @@ private:
 
     QPointer<QQuickItem> m_target;
     QPointer<QQuickWindow> m_window;
+    int m_homing = 0; ///< which call of `home` may still move
 };
 
 } // namespace ormiva

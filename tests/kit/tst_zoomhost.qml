@@ -81,6 +81,34 @@ Item {
             compare([host.contentX, host.contentY], [0, 0])
         }
 
+        function test_winsAgainstWhatMovesItLater() {
+            Bench.storeZoom(2)
+            const start = Date.now()
+            host.contentX = 300
+            host.contentY = 200
+            tryVerify(() => host.contentX === 0 && host.contentY === 0) // the next turn
+            // Moved again between the later looks, the last of them 1.6 seconds after the change.
+            for (const moment of [160, 410, 910]) {
+                tryVerify(() => Date.now() - start > moment)
+                host.contentX = 300
+                tryCompare(host, "contentX", 0)
+            }
+            tryVerify(() => Date.now() - start > 1700)
+            wait(50)
+            host.contentX = 300
+            wait(300)
+            compare(host.contentX, 300)
+        }
+
+        function test_leavesTheUserWhoScrolls() {
+            Bench.storeZoom(2)
+            wait(0)
+            mouseWheel(host, 600, 400, 0, -120)
+            const start = Date.now()
+            tryVerify(() => Date.now() - start > 1700)
+            compare(host.contentY, 72)
+        }
+
         function test_scrollsByTheWheel() {
             Bench.storeZoom(2)
             wait(0)
