@@ -2,12 +2,14 @@ import QtQuick
 import QtQuick.Templates as T
 import Ormiva.Kit
 
-// A modal panel in the middle of the window. It holds the focus until it is closed.
+// A modal panel in the middle of the window. It holds the focus until it is closed, and then gives it back.
 VLPopup {
     id: dialog
 
     property real idealWidth: 440
     property string name
+    // What had the focus before.
+    property Item before: null
 
     signal escaped()
 
@@ -21,6 +23,10 @@ VLPopup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
     padding: 22
+
+    onAboutToShow: before = parent && parent.Window.window ? parent.Window.window.activeFocusItem : null
+    // It ends by being destroyed, and a popup gives the focus back only when it is closed.
+    Component.onDestruction: if (before) before.forceActiveFocus(Qt.PopupFocusReason)
 
     background: Item {
         SoftShade {}

@@ -17,6 +17,8 @@ T.MenuBar {
     }
 
     function remember() {
+        if (before)
+            return
         const focused = Window.window ? Window.window.activeFocusItem : null
         for (let i = 0; i < count; ++i)
             if (itemAt(i) === focused)

@@ -115,6 +115,20 @@ Item {
             tryVerify(() => Bench.named(content, "VLChromeButton", "OK") === null)
         }
 
+        function test_aDialogueGivesTheFocusBack_data() {
+            return [{tag: "message", open: () => Bench.setMessage("A message.")},
+                    {tag: "question", open: () => Bench.askDelete("Ava")},
+                    {tag: "sheet", open: () => AppModel.editNewPet("")}]
+        }
+        function test_aDialogueGivesTheFocusBack(data) {
+            const field = Bench.all(content, "VLSearchField")[0].input
+            field.forceActiveFocus()
+            data.open()
+            tryVerify(() => Bench.all(content, "VLChromeButton").some(button => button.activeFocus))
+            Bench.press(main, "Esc")
+            tryVerify(() => field.activeFocus)
+        }
+
         function test_confirmationIsCancelledByReturnAndEscape_data() {
             return [{tag: "Return", key: "Return"}, {tag: "Escape", key: "Esc"}]
         }

@@ -251,6 +251,24 @@ Item {
             tryVerify(() => open().length === 0)
         }
 
+        function test_afterAllMenusTheFocusIsWhereItWas() {
+            AppModel.screen = "library"
+            tryVerify(() => Bench.all(content, "VLSearchField").length === 1)
+            const field = Bench.all(content, "VLSearchField")[0].input
+            field.forceActiveFocus()
+            Bench.press(main, "Alt+F")
+            for (const title of ["View", "Go", "Theme"]) {
+                Bench.press(main, "Right")
+                tryVerify(() => openTitles().join() === title)
+            }
+            Bench.press(main, "Esc")
+            tryVerify(() => field.activeFocus)
+            Bench.press(main, "Alt+G")
+            tryVerify(() => openTitles().join() === "Go")
+            Bench.press(main, "Esc")
+            tryVerify(() => field.activeFocus)
+        }
+
         function test_afterACommandTheFocusIsWhereItWas() {
             AppModel.screen = "library"
             tryVerify(() => Bench.all(content, "VLSearchField").length === 1)
