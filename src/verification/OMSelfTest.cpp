@@ -88,6 +88,8 @@ void runSections(OMTestRun& run, const QString& scratch) {
     careSheetTests(run, scratch);
     run.begin(QStringLiteral("Backup and restore"));
     backupTests(run, scratch);
+    run.begin(QStringLiteral("Look: themes and zoom (and that they persist); Help; VLK wording"));
+    lookAndHelpTests(run);
     run.begin(QStringLiteral("Species art: every species has a drawing of its own"));
     artTests(run);
 }

@@ -17,6 +17,7 @@ void reminderTests(OMTestRun& run, const QString& scratch);
 void exportTests(OMTestRun& run, const QString& scratch);
 void careSheetTests(OMTestRun& run, const QString& scratch);
 void backupTests(OMTestRun& run, const QString& scratch);
+void lookAndHelpTests(OMTestRun& run);
 void artTests(OMTestRun& run);
 
 } // namespace ormiva::OMSelfTest

@@ -84,7 +84,7 @@ TEST(CommandLines, TheSelfTestPassesAndLeavesNothingBehind) {
     EXPECT_EQ(lines.last(),
               QStringLiteral("ALL %1 CHECKS PASSED").arg(lines.filter(QStringLiteral("PASS  ")).size()));
     EXPECT_GE(lines.filter(QStringLiteral("PASS  ")).size(), 90);
-    EXPECT_EQ(lines.filter(QStringLiteral("== ")).size(), 11);
+    EXPECT_EQ(lines.filter(QStringLiteral("== ")).size(), 12);
     EXPECT_EQ(home.read(QStringLiteral("Pets.sqlite")), records);
     EXPECT_EQ(home.read(QStringLiteral("com.ventrel.ormiva.ini")), settings);
     EXPECT_EQ(QDir(home.path()).entryList({QStringLiteral("om-selftest-*")}), QStringList());
