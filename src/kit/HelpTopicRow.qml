@@ -1,19 +1,16 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ormiva.Kit
 
 // A topic in the list of the manual.
-T.AbstractButton {
+OMButton {
     id: row
 
     property bool selected: false
     property bool focused: false
 
     implicitHeight: implicitContentHeight + 14
-    hoverEnabled: true
-    focusPolicy: Qt.NoFocus
+    activeFocusOnTab: false
     Accessible.role: Accessible.ListItem
-    Accessible.name: text
     Accessible.selectable: true
     Accessible.selected: selected
 

@@ -33,23 +33,33 @@ T.Menu {
 
     onClosed: if (bar) Qt.callLater(bar.leaveWhenClosed)
 
-    function beginning(letter: string): var {
-        const rows = []
-        for (let i = 0; i < count; ++i) {
-            const item = itemAt(i)
-            if (item && item.enabled && item.text && item.text.toLowerCase().startsWith(letter))
-                rows.push(i)
-        }
-        return rows
+    // Without types: qmllint of Qt 6.4 crashes on them now and then.
+    function begins(row, letter) {
+        const item = itemAt(row)
+        return item && item.enabled && item.text && item.text.toLowerCase().startsWith(letter)
     }
 
-    function typed(text: string): bool {
-        const rows = text.trim() === "" ? [] : beginning(text.toLowerCase())
-        if (rows.length === 0)
+    // Marks the next item that begins with the letter, from the first one again behind the last, and triggers it
+    // when it is the only one. False when there is none.
+    function typed(text) {
+        const letter = text.trim().toLowerCase()
+        if (letter === "")
             return false
-        const next = rows.find(row => row > currentIndex)
-        currentIndex = next === undefined ? rows[0] : next
-        if (rows.length === 1)
+        let found = 0
+        let first = -1
+        let next = -1
+        for (let row = count - 1; row >= 0; --row) {
+            if (!begins(row, letter))
+                continue
+            ++found
+            first = row
+            if (row > currentIndex)
+                next = row
+        }
+        if (found === 0)
+            return false
+        currentIndex = next < 0 ? first : next
+        if (found === 1)
             itemAt(currentIndex).activate()
         return true
     }

@@ -11,7 +11,7 @@ OMButton {
     readonly property bool several: chip.sources.length > 1
 
     text: chip.title
-    implicitWidth: Math.min(maximumWidth, implicitContentWidth + leftPadding + rightPadding)
+    implicitWidth: Math.min(maximumWidth, implicitContentWidth + 2 * horizontalPadding)
     implicitHeight: 20
     horizontalPadding: 8
     Accessible.role: several ? Accessible.ButtonMenu : Accessible.Button

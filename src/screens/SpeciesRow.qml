@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Ormiva.Kit
 import Ormiva.Screens
 
 // A species in the list.
-T.AbstractButton {
+OMButton {
     id: row
 
     required property int index
@@ -18,10 +17,7 @@ T.AbstractButton {
 
     text: name
     implicitHeight: 56
-    leftInset: 12
-    rightInset: 14
-    hoverEnabled: true
-    focusPolicy: Qt.NoFocus
+    activeFocusOnTab: false
     Accessible.role: Accessible.ListItem
     Accessible.name: name + ", " + scientific
     Accessible.selectable: true
@@ -35,14 +31,19 @@ T.AbstractButton {
         selected: row.selected
     }
 
-    background: OMRowBox {
-        selected: row.selected
-        highlight: row.hovered
+    background: Item {
+        OMRowBox {
+            anchors.fill: parent
+            anchors.leftMargin: 12
+            anchors.rightMargin: 14
+            selected: row.selected
+            highlight: row.hovered
 
-        FocusRing {
-            shown: row.focused
-            corner: 10
-            reach: 0
+            FocusRing {
+                shown: row.focused
+                corner: 10
+                reach: 0
+            }
         }
     }
 }

@@ -116,8 +116,8 @@ Item {
 
         function test_saysWhatItIs() {
             compare(Bench.accessibleName(chip("VCA")), "VCA")
-            compare(chip("VCA").Accessible.role, Accessible.Button)
-            compare(chip("Merck Vet Manual").Accessible.role, Accessible.ButtonMenu)
+            compare(Bench.accessibleRole(chip("VCA")), Accessible.Button)
+            compare(Bench.accessibleRole(chip("Merck Vet Manual")), Accessible.ButtonMenu)
         }
     }
 }

@@ -50,6 +50,17 @@ Item {
                 "Settings & Backup"])
         }
 
+        function test_aScreenReaderIsToldWhatThingsAre() {
+            const roleOf = (type, text) => Bench.accessibleRole(Bench.named(content, type, text))
+            compare(roleOf("RailButton", "My Pets"), Accessible.PageTab)
+            compare(roleOf("FilterChip", "Mammals"), Accessible.RadioButton)
+            compare(Bench.accessibleRole(Bench.all(content, "SpeciesRow")[0]), Accessible.ListItem)
+            AppModel.speciesID = "test-rabbit"
+            tryVerify(() => Bench.all(content, "SourceRow").length > 0)
+            compare(Bench.accessibleRole(Bench.all(content, "SourceRow")[0]), Accessible.Link)
+            compare(roleOf("VLChromeButton", "Check Symptoms"), Accessible.Button)
+        }
+
         function test_railChangesTheScreenAndShowsWhichIsUp() {
             const rail = Bench.all(content, "SideRail")[0]
             mouseClick(Bench.named(rail, "RailButton", "My Pets"))

@@ -57,13 +57,13 @@ OMCard {
         VLChromeButton {
             title: "Plain, pressed"
             down: true
-            focusPolicy: Qt.NoFocus
+            activeFocusOnTab: false
         }
         VLChromeButton {
             title: "Prominent, pressed"
             prominent: true
             down: true
-            focusPolicy: Qt.NoFocus
+            activeFocusOnTab: false
         }
         VLCaption {
             text: "Disabled"
