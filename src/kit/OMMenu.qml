@@ -35,8 +35,8 @@ T.Menu {
 
     // Without types: qmllint of Qt 6.4 crashes on them now and then.
     function begins(row, letter) {
-        const item = itemAt(row)
-        return item && item.enabled && item.text && item.text.toLowerCase().startsWith(letter)
+        const item = itemAt(row) as OMMenuItem
+        return item !== null && item.enabled && item.text.toLowerCase().startsWith(letter)
     }
 
     // Marks the next item that begins with the letter, from the first one again behind the last, and triggers it
