@@ -10,6 +10,8 @@ T.Menu {
     property bool zoomed: true
     // The menu bar that it belongs to; submenus have none.
     property var bar: null
+    // Whether it was ever opened. Long lists of items are made then, so that the window is there sooner.
+    property bool wanted: false
     // The letter that opens it from the menu bar, with Alt.
     property string mnemonic: title.charAt(0).toLowerCase()
 
@@ -31,6 +33,7 @@ T.Menu {
         return width
     }
 
+    onAboutToShow: wanted = true
     onClosed: if (bar) Qt.callLater(bar.leaveWhenClosed)
 
     // Without types: qmllint of Qt 6.4 crashes on them now and then.

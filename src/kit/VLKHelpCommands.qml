@@ -4,6 +4,8 @@ import Ormiva.Kit
 
 // The manual, topic by topic, and the maker's website.
 OMMenu {
+    id: menu
+
     title: qsTr("Help")
     zoomed: false
 
@@ -17,7 +19,7 @@ OMMenu {
     OMMenuSeparator {}
 
     Repeater {
-        model: VLKHelp.topics
+        model: menu.wanted ? VLKHelp.topics : []
 
         OMMenuItem {
             required property helpTopic modelData

@@ -3,11 +3,13 @@ import Ormiva.Kit
 
 // The themes, the one in use checked.
 OMMenu {
+    id: menu
+
     title: qsTr("Theme")
     zoomed: false
 
     Repeater {
-        model: VLUI.themes
+        model: menu.wanted ? VLUI.themes : []
 
         OMMenuItem {
             required property themeChoice modelData

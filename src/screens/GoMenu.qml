@@ -4,11 +4,13 @@ import Ormiva.Screens
 
 // The way to every screen.
 OMMenu {
+    id: menu
+
     title: qsTr("Go")
     zoomed: false
 
     Repeater {
-        model: Screens.all
+        model: menu.wanted ? Screens.all : []
 
         OMMenuItem {
             required property screenInfo modelData
