@@ -129,6 +129,42 @@ TEST_F(Window, AThemeIsChosenFromTheMenuAndKept) {
     quit(program, desktop);
 }
 
+TEST_F(Window, TheMenusAndTheManualAreWorkedByKeys) {
+    const Desktop desktop;
+    Program program(m_home.path(), desktop.display());
+    open(program, desktop);
+    desktop.key(QStringLiteral("alt+t"));
+    settle();
+    for (const char16_t* key : {u"r", u"Return", u"ctrl+equal", u"ctrl+plus"}) // Rose Gold, then two steps
+        desktop.key(QString::fromUtf16(key));
+    settle();
+    EXPECT_EQ(m_home.read(QStringLiteral("com.ventrel.ormiva.ini")),
+              "[General]\nvlk.theme=rose-gold\nvlk.zoom=1.3\n");
+    desktop.key(QStringLiteral("F10"));
+    for (const char16_t* key :
+         {u"Right", u"Right", u"Down", u"Down", u"Down", u"Return"}) // View, Actual Size
+        desktop.key(QString::fromUtf16(key));
+    settle();
+    EXPECT_EQ(m_home.read(QStringLiteral("com.ventrel.ormiva.ini")),
+              "[General]\nvlk.theme=rose-gold\nvlk.zoom=1\n");
+
+    const auto helpWindow = [&] {
+        return desktop.xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--name"), QStringLiteral("^VLK Ormiva Help$")});
+    };
+    EXPECT_FALSE(helpWindow().has_value());
+    desktop.key(QStringLiteral("F1"));
+    settle();
+    ASSERT_TRUE(helpWindow().has_value());
+    desktop.type(QStringLiteral("backup"));
+    settle();
+    picture(desktop, QStringLiteral("manual"));
+    desktop.key(QStringLiteral("Escape"));
+    settle();
+    EXPECT_FALSE(helpWindow().has_value());
+    quit(program, desktop);
+}
+
 TEST_F(Window, ClosingItEndsTheProgram) {
     const Desktop desktop;
     Program program(m_home.path(), desktop.display());
