@@ -156,6 +156,10 @@ TEST_F(Window, TheMenusAndTheManualAreWorkedByKeys) {
     desktop.key(QStringLiteral("F1"));
     settle();
     ASSERT_TRUE(helpWindow().has_value());
+    EXPECT_EQ(desktop.xdotool({QStringLiteral("getwindowname"), helpWindow()->trimmed()})
+                  .value_or(QString())
+                  .trimmed(),
+              QStringLiteral("VLK Ormiva Help"));
     desktop.type(QStringLiteral("backup"));
     settle();
     picture(desktop, QStringLiteral("manual"));

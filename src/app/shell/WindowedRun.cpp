@@ -76,7 +76,6 @@ void chooseSceneGraph() {
 }
 
 void describeApplication() {
-    QGuiApplication::setApplicationDisplayName(OMInfo::appName);
     QGuiApplication::setDesktopFileName(OMInfo::identity);
     QGuiApplication::setWindowIcon(AppIcon::icon());
     QFont font(QStringLiteral("Inter"));
