@@ -2,10 +2,10 @@
 #include "SpeciesIcon.h"
 
 #include "CareLibrary.h"
+#include "MadePhotos.h"
 #include "PrefsInFile.h"
 #include "Printers.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 
@@ -48,21 +48,6 @@ QImage stripes(int width, int height) {
     return image;
 }
 
-QByteArray encoded(const QImage& image, const char* format = "PNG") {
-    QBuffer buffer;
-    EXPECT_TRUE(image.save(&buffer, format, 95));
-    return buffer.data();
-}
-
-/// A JPEG with the Exif note that it has to be turned by a quarter with the clock to stand upright.
-QByteArray turned(const QImage& image) {
-    QByteArray jpeg = encoded(image, "JPG");
-    const QByteArray note = QByteArray::fromHex("ffe1002245786966000049492a000800000001001201030001000000"
-                                                "060000000000000000");
-    EXPECT_EQ(note.size(), 2 + 0x22 + 1);
-    return jpeg.insert(2, note.chopped(1));
-}
-
 class PetAvatarTest : public ::testing::Test {
 protected:
     static void SetUpTestSuite() { qputenv("OM_DATA_DIR", ORMIVA_ROOT "/data"); }
@@ -74,7 +59,7 @@ private:
 } // namespace
 
 TEST_F(PetAvatarTest, FillsTheCircleWithTheMiddleOfThePhoto) {
-    const QImage image = avatar(petOf(u"budgie"_qs, encoded(stripes(900, 300))));
+    const QImage image = avatar(petOf(u"budgie"_qs, encoded(stripes(900, 300), "PNG")));
     EXPECT_EQ(image.pixelColor(40, 40), QColor(0, 255, 0));
     EXPECT_EQ(image.pixelColor(4, 40), QColor(0, 255, 0)); // cut to the square in the middle
     EXPECT_EQ(image.pixelColor(76, 40), QColor(0, 255, 0));
@@ -86,7 +71,7 @@ TEST_F(PetAvatarTest, FillsTheCircleWithTheMiddleOfThePhoto) {
 TEST_F(PetAvatarTest, HasAWhitishBorderInsideTheEdgeOfAPhoto) {
     QImage black(200, 200, QImage::Format_RGB32);
     black.fill(Qt::black);
-    const QImage image = avatar(petOf(u"budgie"_qs, encoded(black)), 10 * edge);
+    const QImage image = avatar(petOf(u"budgie"_qs, encoded(black, "PNG")), 10 * edge);
     // 1.2 points of white at 0.4, at ten pixels a point.
     EXPECT_EQ(image.pixelColor(400, 6), QColor(102, 102, 102));
     EXPECT_EQ(image.pixelColor(400, 10), QColor(102, 102, 102));
@@ -96,7 +81,8 @@ TEST_F(PetAvatarTest, HasAWhitishBorderInsideTheEdgeOfAPhoto) {
 
 TEST_F(PetAvatarTest, ShowsAPhotoUpright) {
     // As stored the stripes stand side by side; upright red is above and blue below.
-    const QImage image = avatar(petOf(u"budgie"_qs, turned(stripes(300, 300))));
+    const QImage image =
+        avatar(petOf(u"budgie"_qs, withSegments(encoded(stripes(300, 300), "JPEG", 95), orientationNote(6))));
     EXPECT_GT(image.pixelColor(40, 10).red(), 200);
     EXPECT_GT(image.pixelColor(40, 40).green(), 200);
     EXPECT_GT(image.pixelColor(40, 70).blue(), 200);

@@ -1,8 +1,7 @@
 #include "PhotoPicker.h"
 
+#include "MadePhotos.h"
 #include "Printers.h"
-#include "ScriptedPanels.h"
-#include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +11,6 @@
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
-#include <QImageWriter>
 #include <QPainter>
 
 #include <array>
@@ -27,31 +25,6 @@ namespace {
 using namespace ormiva::testing;
 
 constexpr std::nullopt_t nothing = std::nullopt;
-
-QByteArray encoded(const QImage& image, const char* format, int quality = -1, bool progressive = false) {
-    QBuffer buffer;
-    QImageWriter writer(&buffer, format);
-    writer.setQuality(quality);
-    writer.setProgressiveScanWrite(progressive);
-    EXPECT_TRUE(writer.write(image)) << format << ": " << writer.errorString().toStdString();
-    return buffer.data();
-}
-
-QImage plain(int width, int height, const QColor& color = Qt::darkCyan) {
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(color);
-    return image;
-}
-
-/// A picture that no format can make small.
-QImage noise(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    std::minstd_rand random(7);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, qRgb(int(random() % 256), int(random() % 256), int(random() % 256)));
-    return image;
-}
 
 /// The picture of a photo, which has to be a JPEG.
 QImage decoded(const std::optional<QByteArray>& photo) {
@@ -83,65 +56,6 @@ bool isLike(const QColor& color, const QColor& expected, int tolerance = 6) {
                 return ::testing::AssertionFailure()
                        << x << ", " << y << " is " << image.pixelColor(x, y).name().toStdString();
     return ::testing::AssertionSuccess();
-}
-
-/// A JPEG with further segments behind its start mark.
-QByteArray withSegments(QByteArray jpeg, const QByteArray& segments) {
-    return jpeg.insert(2, segments);
-}
-
-QByteArray segment(char marker, const QByteArray& payload) {
-    const auto length = static_cast<unsigned>(payload.size() + 2);
-    return QByteArray("\xFF") + marker + static_cast<char>(length >> 8) + static_cast<char>(length & 0xFF) +
-           payload;
-}
-
-/// An Exif note of a single fact: how the picture has to be turned.
-QByteArray orientationNote(int orientation) {
-    QByteArray exif = QByteArray::fromHex("45786966000049492a000800000001001201030001000000000000"
-                                          "0000000000");
-    exif[24] = static_cast<char>(orientation);
-    return segment('\xE1', exif);
-}
-
-/// A JPEG of `strip`, which is 16 pixels high, over and over: it takes no bitmap of the whole to make it.
-QByteArray stacked(const QImage& strip, int times) {
-    QByteArray jpeg = encoded(strip, "JPEG", 82);
-    const auto put = [&jpeg](qsizetype at, int value) {
-        jpeg[at] = static_cast<char>(value >> 8);
-        jpeg[at + 1] = static_cast<char>(value & 0xFF);
-    };
-    put(jpeg.indexOf("\xFF\xC0") + 5, 16 * times);
-    const qsizetype scan = jpeg.indexOf("\xFF\xDA");
-    const QByteArray head = jpeg.first(scan + 2 + 12);
-    const QByteArray body = jpeg.mid(head.size()).chopped(2);
-    jpeg = head;
-    for (int strips = 0; strips < times; ++strips) {
-        if (strips > 0) // The decoder begins anew at a restart mark, which are counted from 0 to 7.
-            jpeg += QByteArray("\xFF") + static_cast<char>(0xD0 + (strips - 1) % 8);
-        jpeg += body;
-    }
-    const QByteArray interval("\0\0", 2);
-    jpeg.insert(scan, segment('\xDD', interval));
-    put(scan + 4, strip.width() / 16);
-    return jpeg + "\xFF\xD9";
-}
-
-/// A PNG that is whole in form and claims to be of that size.
-QByteArray pngClaiming(quint32 width, quint32 height) {
-    QByteArray png = encoded(plain(4, 4), "PNG");
-    for (const auto& [at, value] : {std::pair(16, width), std::pair(20, height)})
-        for (int byte = 0; byte < 4; ++byte)
-            png[at + byte] = static_cast<char>(value >> (24 - 8 * byte));
-    quint32 sum = 0xFFFFFFFF; // The header's own check sum.
-    for (int at = 12; at < 29; ++at) {
-        sum ^= static_cast<unsigned char>(png[at]);
-        for (int bit = 0; bit < 8; ++bit)
-            sum = (sum >> 1) ^ ((sum & 1) ? 0xEDB88320 : 0);
-    }
-    for (int byte = 0; byte < 4; ++byte)
-        png[29 + byte] = static_cast<char>(~sum >> (24 - 8 * byte));
-    return png;
 }
 
 /// A figure of this process in kilobytes.
@@ -459,63 +373,6 @@ TEST(Shrink, StandsWhateverIsWrongInsideAFile) {
             }
         }
     }
-}
-
-// -- Choosing -----------------------------------------------------------------------------------
-
-class Picking : public ::testing::Test {
-protected:
-    std::optional<QByteArray> picked(const std::optional<QString>& path) {
-        panels.answer = path;
-        return PhotoPicker::pick(panels);
-    }
-
-    ScriptedPanels panels;
-    TemporaryFolder folder;
-};
-
-TEST_F(Picking, GivesTheChosenPictureShrunk) {
-    const QByteArray picture = encoded(plain(3000, 1500), "PNG");
-    const auto photo = picked(folder.write(u"Rex on his rock.PNG"_qs, picture));
-    EXPECT_EQ(sizeOf(photo), QSize(900, 450));
-    EXPECT_EQ(photo, PhotoPicker::shrink(picture));
-    EXPECT_EQ(panels.asked, QStringList({u"open .jpg Choose a photo"_qs}));
-}
-
-TEST_F(Picking, GivesNothingWhenCancelled) {
-    EXPECT_EQ(picked(nothing), nothing);
-    EXPECT_EQ(panels.asked.size(), 1);
-}
-
-TEST_F(Picking, GivesNothingForAFileThatCannotBeRead) {
-    EXPECT_EQ(picked(folder.file(u"gone.jpg"_qs)), nothing);
-    EXPECT_EQ(picked(folder.path()), nothing);
-    EXPECT_EQ(picked(QString()), nothing);
-    EXPECT_EQ(picked(u"/dev/zero"_qs), nothing);
-    EXPECT_EQ(picked(u"/proc/self/mem"_qs), nothing);
-}
-
-TEST_F(Picking, GivesNothingForAFileThatIsNoPicture) {
-    EXPECT_EQ(picked(folder.write(u"diary.jpg"_qs, "My pet eats crickets.\n")), nothing);
-    EXPECT_EQ(picked(folder.write(u"empty.jpg"_qs, "")), nothing);
-}
-
-TEST_F(Picking, GivesNothingForAFileBeyondAnySize) {
-    const QString path = folder.write(u"large.png"_qs, encoded(plain(10, 10), "PNG"));
-    EXPECT_NE(picked(path), nothing);
-    ASSERT_TRUE(QFile::resize(path, 512LL * 1024 * 1024)); // A file of zeros takes no room.
-    EXPECT_NE(picked(path), nothing);
-    ASSERT_TRUE(QFile::resize(path, 512LL * 1024 * 1024 + 1));
-    EXPECT_EQ(picked(path), nothing);
-}
-
-TEST(Images, AreAllThatCanBeDecoded) {
-    const FileType type = PhotoPicker::images();
-    EXPECT_EQ(type.name, u"Images"_qs);
-    EXPECT_EQ(type.suffixes().first(), u"jpg"_qs);
-    for (const QString& suffix :
-         {u"jpg"_qs, u"jpeg"_qs, u"png"_qs, u"webp"_qs, u"tiff"_qs, u"tif"_qs, u"gif"_qs, u"bmp"_qs})
-        EXPECT_EQ(type.suffixes().count(suffix), 1) << suffix.toStdString();
 }
 
 } // namespace
